@@ -1,0 +1,365 @@
+// SPDX-FileCopyrightText: 2026 Quellfern
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "parserobject.h"
+
+#include "coordinateconv.h"
+
+#include <QDebug>
+#include <QFileInfo>
+#include <QtEndian>
+
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+
+namespace {
+
+constexpr char TelemetryMask = 0x5C;
+constexpr int FirstMaskedByte = 2;
+constexpr int TableWindowSize = 16 * 1024;
+constexpr double SamePositionDeg = 0.00001;
+
+// The sample block: offsets from its first byte.
+constexpr int TimeAt = 8;
+constexpr int TimeLength = 14;
+constexpr int Mark1At = 22;
+constexpr int Time2At = 23;
+constexpr int Mark2At = 37;
+constexpr int LatitudeRefAt = 38;
+constexpr int LatitudeAt = 39;
+constexpr int LongitudeRefAt = 47;
+constexpr int LongitudeAt = 48;
+constexpr int ExtraValueAt = 57;
+constexpr int SpeedAt = 62;
+constexpr int GsensorXAt = 173;
+constexpr int GsensorYAt = 177;
+constexpr int GsensorZAt = 181;
+
+/** Where the blocks of a scheme lie: directly every `stride` bytes, or behind a table whose
+ *  entries are `stride` bytes apart. */
+struct LocatingScheme
+{
+    bool hasTable;
+    int stride;
+    int distance; ///< from the table's value to the block
+};
+
+constexpr LocatingScheme Schemes[] = {
+    {false, 0, 0}, // 0: no telemetry
+    {true, 4, 2},  // 1: MP4 track named "Ambarella EXT"
+    {true, 8, 18}, // 2: MP4 "gps " box
+    {true, 4, 14}, // 3: "freeGPS" in the chunks of a sound track, behind the extra offset
+    // Blocks are read 312 bytes long but lie 311 apart: the last byte belongs to the next block.
+    {false, 311, 0}, // 4: MP4 "gps0" box
+    {false, 0, 0},   // 5: not in use
+    {true, 4, 0},    // 6: MP4 "meta" track named "gps"
+    {false, 312, 0}, // 7: AVI "GPSL" block
+};
+
+constexpr int FreeGpsScheme = 3;
+constexpr int UnusedScheme = 5;
+constexpr int SoundChunkScheme = 8;
+constexpr quint64 BlockInSoundChunk = 0x10002;
+
+bool isBlank(char c)
+{
+    return c == ' ' || (c >= '\t' && c <= '\r');
+}
+
+/**
+ * Reads one decimal number as the scanf conversion "%<width>d" does, literally: blanks before it
+ * are skipped without counting in the width, one sign is accepted and counts. Returns false, and
+ * leaves @p value alone, when there is no digit; @p text then no longer matters.
+ */
+bool scanNumber(const char *&text, int width, int &value)
+{
+    while (isBlank(*text))
+        ++text;
+    const bool negative = *text == '-';
+    if (negative || *text == '+') {
+        ++text;
+        --width;
+    }
+    int number = 0;
+    const char *const first = text;
+    for (; width > 0 && *text >= '0' && *text <= '9'; --width)
+        number = number * 10 + (*text++ - '0');
+    if (text == first)
+        return false;
+    value = negative ? -number : number;
+    return true;
+}
+
+/** Two numbers of fixed width in a row; a failed first one leaves the second zero as well. */
+void scanTwoNumbers(const char *text, int firstWidth, int &first, int secondWidth, int &second)
+{
+    if (scanNumber(text, firstWidth, first))
+        scanNumber(text, secondWidth, second);
+}
+
+/** Degrees from digits of degrees followed by six digits of minutes times ten thousand. */
+double scanAngle(const char *text, int degreeWidth)
+{
+    int degrees = 0;
+    int minutes = 0;
+    scanTwoNumbers(text, degreeWidth, degrees, 6, minutes);
+    return minutes / 10000.0 / 60.0 + degrees;
+}
+
+float scanAcceleration(const char *text)
+{
+    int units = 0;
+    int hundredths = 0;
+    scanTwoNumbers(text + 1, 1, units, 2, hundredths);
+    const float value = float(hundredths) / 100.0f + float(units);
+    if (*text == '-')
+        return -value;
+    if (*text == '+')
+        return value;
+    qDebug() << "gsensor data error";
+    return 0.0f;
+}
+
+} // namespace
+
+ParserObject::ParserObject(const QString &fileName, QObject *parent)
+    : QObject(parent), file(fileName)
+{
+    // Opening a pipe would wait for its writer, so only regular files are opened at all. Reads are
+    // small and scattered: a read buffer would fetch many times what is needed.
+    if (QFileInfo(fileName).isFile() && file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+        mFileSize = quint64(file.size());
+    else
+        qDebug() << "Mp4Parser open file error, file:" << fileName;
+}
+
+ParserObject::~ParserObject() = default;
+
+quint64 ParserObject::readUint64_fromBig()
+{
+    return readBig<quint64>();
+}
+
+quint32 ParserObject::readUint32_fromBig()
+{
+    return readBig<quint32>();
+}
+
+quint16 ParserObject::readUint16_fromBig()
+{
+    return readBig<quint16>();
+}
+
+quint8 ParserObject::readUint8_fromBig()
+{
+    return readBig<quint8>();
+}
+
+quint64 ParserObject::readUint64_fromLittle()
+{
+    return readLittle<quint64>();
+}
+
+quint32 ParserObject::readUint32_fromLittle()
+{
+    return readLittle<quint32>();
+}
+
+quint16 ParserObject::readUint16_fromLittle()
+{
+    return readLittle<quint16>();
+}
+
+quint8 ParserObject::readUint8_fromLittle()
+{
+    return readLittle<quint8>();
+}
+
+bool ParserObject::getGpsData(int index, GpsData &out)
+{
+    out = GpsData();
+    if (!hasSample(index))
+        return false;
+    out.id = index;
+
+    char block[BlockSize] = {};
+    if (!readBlock(index + 1, block))
+        return false;
+    for (int i = FirstMaskedByte; i < BlockSize; ++i)
+        block[i] ^= TelemetryMask;
+    return dataResolve(index + 1, block, out);
+}
+
+bool ParserObject::dataResolve(int number, const char *block, GpsData &out)
+{
+    // A terminated copy: numbers may run on into the next field, never past the block.
+    char text[BlockSize + 1] = {};
+    std::memcpy(text, block, BlockSize);
+
+    std::memcpy(out.time, text + TimeAt, TimeLength);
+    out.time[TimeLength] = '\0';
+    out.mark1 = text[Mark1At];
+    std::memcpy(out.time2, text + Time2At, TimeLength);
+    out.time2[TimeLength] = '\0';
+    out.mark2 = text[Mark2At];
+    out.latitudeRef = text[LatitudeRefAt];
+    out.longitudeRef = text[LongitudeRefAt];
+
+    out.latitude = scanAngle(text + LatitudeAt, 2);
+    if (out.latitudeRef == 'S')
+        out.latitude = -out.latitude;
+    out.longitude = scanAngle(text + LongitudeAt, 3);
+    if (out.longitudeRef == 'W')
+        out.longitude = -out.longitude;
+
+    const char *extraValue = text + ExtraValueAt;
+    scanNumber(extraValue, 5, out.extraValue);
+    const char *speed = text + SpeedAt;
+    scanNumber(speed, 3, out.speed);
+
+    out.gsensorX = scanAcceleration(text + GsensorXAt);
+    out.gsensorY = scanAcceleration(text + GsensorYAt);
+    out.gsensorZ = scanAcceleration(text + GsensorZAt);
+
+    updateDirection(number, out);
+    return true;
+}
+
+void ParserObject::seekForwardTo(quint64 target)
+{
+    if (target < position() || target > mFileSize)
+        target = mFileSize;
+    file.seek(qint64(target));
+}
+
+void ParserObject::skip(quint64 distance)
+{
+    seekForwardTo(position() + distance);
+}
+
+qint64 ParserObject::readZeroFilled(char *data, qint64 size)
+{
+    const qint64 got = std::max<qint64>(file.isOpen() ? file.read(data, size) : 0, 0);
+    if (got < size) {
+        std::memset(data + got, 0, size_t(size - got));
+        // A file that shrinks while it is read must end the walk like any other end of file.
+        file.seek(qint64(mFileSize));
+    }
+    return got;
+}
+
+void ParserObject::readAt(quint64 offset, char *data, qint64 size)
+{
+    if (offset < mFileSize && file.seek(qint64(offset)))
+        readZeroFilled(data, size);
+    else
+        std::memset(data, 0, size_t(size));
+}
+
+template <typename Int>
+Int ParserObject::readBig()
+{
+    char bytes[sizeof(Int)];
+    readZeroFilled(bytes, sizeof bytes);
+    return qFromBigEndian<Int>(bytes);
+}
+
+template <typename Int>
+Int ParserObject::readLittle()
+{
+    char bytes[sizeof(Int)];
+    readZeroFilled(bytes, sizeof bytes);
+    return qFromLittleEndian<Int>(bytes);
+}
+
+bool ParserObject::hasSample(int index) const
+{
+    // A table that could not fit into the file is an invention, not a table.
+    if (gpsCount == 0 || gpsCount > mFileSize / 4)
+        return false;
+    // Required: the last entry of every table is never delivered. With entry 0 skipped as well
+    // (see readBlock), N entries give the samples 0 to N - 2 from the entries 1 to N - 1.
+    return quint32(index) < std::min(gpsCount - 1, MaxSampleCount);
+}
+
+bool ParserObject::readBlock(int number, char *block)
+{
+    quint64 offset = 0;
+    if (gpsFormat == SoundChunkScheme) {
+        if (findSoundChunk(number, offset))
+            readAt(offset + BlockInSoundChunk, block, BlockSize);
+        return true;
+    }
+    if (gpsFormat == UnusedScheme)
+        return true;
+    if (gpsFormat < 1 || gpsFormat > SoundChunkScheme)
+        return false;
+
+    const LocatingScheme &scheme = Schemes[gpsFormat];
+    // Numbers start at 1: entry 0 of every table is skipped, which is required.
+    offset = gpsTableOffset + quint64(scheme.stride) * quint64(number);
+    if (scheme.hasTable)
+        offset = quint64(tableEntry(offset)) + quint64(scheme.distance);
+    if (gpsFormat == FreeGpsScheme)
+        offset += gpsExtraOffset;
+    readAt(offset, block, BlockSize);
+    return true;
+}
+
+quint32 ParserObject::tableEntry(quint64 offset)
+{
+    const quint64 entryEnd = offset + sizeof(quint32);
+    if (offset < mTableWindowOffset ||
+        entryEnd > mTableWindowOffset + quint64(mTableWindow.size())) {
+        mTableWindow.resize(TableWindowSize);
+        mTableWindowOffset = offset;
+        readAt(offset, mTableWindow.data(), mTableWindow.size());
+    }
+    return qFromBigEndian<quint32>(mTableWindow.constData() + (offset - mTableWindowOffset));
+}
+
+bool ParserObject::findSoundChunk(int number, quint64 &offset)
+{
+    if (mSoundChunks.isEmpty())
+        mNextChunk = quint32(gpsTableOffset);
+    while (mSoundChunks.size() < number && mNextChunk < mFileSize) {
+        char header[8];
+        readAt(mNextChunk, header, sizeof header);
+        quint64 size = qFromLittleEndian<quint32>(header + 4);
+        // Required: sound chunks are stepped over by their plain size, all others by the size
+        // rounded up to even.
+        if (std::memcmp(header, "01wb", 4) == 0)
+            mSoundChunks.append(mNextChunk);
+        else
+            size += size % 2;
+        mNextChunk += sizeof header + size;
+    }
+    if (mSoundChunks.size() < number)
+        return false;
+    offset = mSoundChunks.at(number - 1);
+    return true;
+}
+
+void ParserObject::updateDirection(int number, GpsData &sample)
+{
+    const double latitude = std::fabs(sample.latitude);
+    const double longitude = std::fabs(sample.longitude);
+    // Required: the signed values are compared with magnitudes, so in the south and the west the
+    // course is computed anew for every sample, and it is that of the mirrored track.
+    const bool keeps = lastIndex >= number ||
+                       std::fabs(lastLongitude - sample.longitude) <= SamePositionDeg ||
+                       std::fabs(lastLatitude - sample.latitude) <= SamePositionDeg;
+    if (!keeps) {
+        double course = 0.0;
+        double distanceKm = 0.0;
+        CoordinateConv().LongLatToXY(lastLongitude, lastLatitude, longitude, latitude, course,
+                                     distanceKm);
+        // Two equal magnitudes have no course.
+        if (!std::isnan(course))
+            lastDirection = course;
+    }
+    sample.direction = lastDirection;
+    lastLatitude = latitude;
+    lastLongitude = longitude;
+    lastIndex = number;
+}

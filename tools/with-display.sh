@@ -1,0 +1,53 @@
+#!/bin/sh
+# SPDX-FileCopyrightText: 2026 Quellfern
+# SPDX-License-Identifier: GPL-3.0-or-later
+#
+# Runs a command on a virtual display of its own, with a window manager:
+#   tools/with-display.sh COMMAND [ARGUMENT...]
+# Several may run at once: the X server picks a free display. Exits with the command's status.
+set -eu
+
+[ $# -gt 0 ] || { echo "usage: with-display.sh COMMAND [ARGUMENT...]" >&2; exit 2; }
+for tool in Xvfb openbox xdotool; do
+    command -v $tool >/dev/null || { echo "with-display: $tool is not installed" >&2; exit 1; }
+done
+
+work=$(mktemp -d)
+server=""
+manager=""
+# shellcheck disable=SC2317 # reached through the trap
+clean_up() {
+    [ -z "$manager" ] || kill "$manager" 2>/dev/null || true
+    [ -z "$server" ] || kill "$server" 2>/dev/null || true
+    rm -rf "$work"
+}
+trap clean_up EXIT
+trap 'exit 130' INT
+trap 'exit 143' TERM
+
+wait_for() { # SECONDS COMMAND...: polls until the command succeeds
+    tries=$(($1 * 20))
+    shift
+    until "$@" >/dev/null 2>&1; do
+        tries=$((tries - 1))
+        [ $tries -gt 0 ] || return 1
+        sleep 0.05
+    done
+}
+
+Xvfb -displayfd 3 -screen 0 1600x1000x24 -nolisten tcp 3>"$work/display" 2>"$work/server.log" &
+server=$!
+wait_for 20 test -s "$work/display" ||
+    { echo "with-display: the X server did not start:" >&2; cat "$work/server.log" >&2; exit 1; }
+DISPLAY=":$(cat "$work/display")"
+export DISPLAY
+
+openbox --sm-disable >"$work/manager.log" 2>&1 &
+manager=$!
+# The manager announces itself on the root window; before that, windows open unmanaged.
+wait_for 20 sh -c 'xprop -root _NET_SUPPORTING_WM_CHECK | grep -q "window id"' ||
+    { echo "with-display: the window manager did not start:" >&2; cat "$work/manager.log" >&2; exit 1; }
+
+status=0
+"$@" || status=$?
+exit $status
