@@ -10,3 +10,7 @@
  */
 constexpr char APP_NAME_TEXT[] = "Talvor Player V1.6 20200828";
 constexpr QLatin1String APP_NAME{APP_NAME_TEXT, int(sizeof(APP_NAME_TEXT)) - 1};
+
+/** The application version that Qt is told. */
+constexpr char APP_VERSION_TEXT[] = "1.0.0.090311";
+constexpr QLatin1String APP_VERSION{APP_VERSION_TEXT, int(sizeof(APP_VERSION_TEXT)) - 1};

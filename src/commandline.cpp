@@ -1,0 +1,104 @@
+// SPDX-FileCopyrightText: 2026 Quellfern
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "commandline.h"
+
+#include "appname.h"
+#include "playareamanager.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <cstring>
+
+namespace {
+
+const QLatin1String FileScheme("file://");
+
+void print(std::FILE *stream, const QString &line)
+{
+    std::fprintf(stream, "%s\n", qUtf8Printable(line));
+}
+
+QUrl urlOf(const QString &argument)
+{
+    if (!argument.startsWith(FileScheme, Qt::CaseInsensitive))
+        return QUrl::fromLocalFile(QFileInfo(argument).absoluteFilePath());
+    const QUrl url(argument);
+    // A URL typed by hand may carry '#' or '%' as they are.
+    const QString verbatimPath = argument.mid(FileScheme.size());
+    const bool isVerbatim =
+        !QFileInfo::exists(url.toLocalFile()) && QFileInfo::exists(verbatimPath);
+    return isVerbatim ? QUrl::fromLocalFile(verbatimPath) : url;
+}
+
+/** Why a name cannot be opened; empty when it can. */
+QString obstacle(const QUrl &url)
+{
+    const QFileInfo file(url.toLocalFile());
+    if (!file.exists())
+        return QStringLiteral("there is no such file");
+    if (file.isDir())
+        return QStringLiteral("it is a folder");
+    if (!PlayAreaManager::isRecordingName(file.fileName()))
+        return QStringLiteral("its name ends neither in mp4 nor in mov or avi");
+    return QString();
+}
+
+} // namespace
+
+CommandLine::CommandLine()
+{
+    mParser.setApplicationDescription(
+        QStringLiteral("Plays dash-camera recordings and shows what the camera measured."));
+    mParser.addHelpOption();
+    mParser.addVersionOption();
+    mParser.addPositionalArgument(QStringLiteral("recordings"),
+                                  QStringLiteral("MP4, MOV or AVI files to open"),
+                                  QStringLiteral("[recordings...]"));
+}
+
+bool CommandLine::asksForInformation(int argc, const char *const *argv)
+{
+    const std::array<const char *, 4> options{"-h", "--help", "-v", "--version"};
+    for (int i = 1; i < argc && std::strcmp(argv[i], "--") != 0; ++i) {
+        if (std::any_of(options.begin(), options.end(),
+                        [&](const char *option) { return std::strcmp(argv[i], option) == 0; }))
+            return true;
+    }
+    return false;
+}
+
+void CommandLine::printInformation(const QStringList &arguments)
+{
+    mParser.parse(arguments);
+    if (mParser.isSet(QStringLiteral("version")))
+        print(stdout, QStringLiteral("%1 (%2)").arg(APP_NAME, APP_VERSION));
+    else
+        print(stdout, mParser.helpText().trimmed());
+}
+
+bool CommandLine::parse(const QStringList &arguments)
+{
+    const bool understood = mParser.parse(arguments);
+    if (!understood)
+        print(stderr, QStringLiteral("talvor-player: %1").arg(mParser.errorText()));
+    return understood;
+}
+
+QList<QUrl> CommandLine::recordings() const
+{
+    QList<QUrl> urls;
+    const QStringList names = mParser.positionalArguments();
+    for (const QString &name : names) {
+        const QUrl url = urlOf(name);
+        const QString reason = obstacle(url);
+        if (reason.isEmpty())
+            urls.append(url);
+        else
+            print(stderr,
+                  QStringLiteral("talvor-player: cannot open \"%1\": %2").arg(name, reason));
+    }
+    return urls;
+}

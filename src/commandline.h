@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: 2026 Quellfern
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QCommandLineParser>
+#include <QList>
+#include <QString>
+#include <QUrl>
+
+/**
+ * The command line: options, and recordings to open, as paths or file URLs. Qt's own options
+ * (such as -platform) are taken out by the application object before it gets here.
+ */
+class CommandLine
+{
+public:
+    CommandLine();
+
+    /** Whether --help or --version is asked for: both are answered without a display. */
+    static bool asksForInformation(int argc, const char *const *argv);
+    /** Prints what was asked for on standard output. Needs a QCoreApplication. */
+    void printInformation(const QStringList &arguments);
+
+    /** Returns false, with the reason on standard error, when an option is unknown. */
+    bool parse(const QStringList &arguments);
+
+    /** The recordings named, in order. Each name that cannot be opened gets a message on standard
+     *  error instead. */
+    QList<QUrl> recordings() const;
+
+private:
+    QCommandLineParser mParser;
+};

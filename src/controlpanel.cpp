@@ -1,0 +1,229 @@
+// SPDX-FileCopyrightText: 2026 Quellfern
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "controlpanel.h"
+
+#include "ui_controlpanel.h"
+
+#include "configuration.h"
+
+#include <QAudio>
+#include <QDateTime>
+
+namespace {
+
+constexpr int NormalRateIndex = 1;
+// From here on times are shown with hours; a recording of exactly one hour is shown without.
+constexpr int FirstDurationWithHours = 3601;
+constexpr double KmPerMile = 1.609344;
+
+int convertedVolume(int volume, QAudio::VolumeScale from, QAudio::VolumeScale to)
+{
+    return qRound(QAudio::convertVolume(volume / qreal(100), from, to) * 100);
+}
+
+QString twoDigits(int number)
+{
+    return QStringLiteral("%1").arg(number, 2, 10, QLatin1Char('0'));
+}
+
+QString clockText(int seconds, bool withHours)
+{
+    const QString minutesAndSeconds =
+        twoDigits(seconds / 60 % 60) + QLatin1Char(':') + twoDigits(seconds % 60);
+    if (!withHours)
+        return minutesAndSeconds;
+    return twoDigits(seconds / 3600 % 60) + QLatin1Char(':') + minutesAndSeconds;
+}
+
+} // namespace
+
+ControlPanel::ControlPanel(QWidget *parent)
+    : QWidget(parent), mUi(std::make_unique<Ui::ControlPanel>())
+{
+    mUi->setupUi(this);
+    fillRates();
+    connectButtons();
+    connectSliders();
+    connect(mUi->fcbox_Rate, &FComboBox::activated, this, &ControlPanel::updateRate);
+    connect(Configuration::GetInstance(), &Configuration::updateLanguage, this,
+            &ControlPanel::onUpdateLanguage);
+    setGpsSpeed(0);
+}
+
+ControlPanel::~ControlPanel() = default;
+
+int ControlPanel::volume() const
+{
+    return convertedVolume(mUi->hSlider_Volume->value(), QAudio::LogarithmicVolumeScale,
+                           QAudio::LinearVolumeScale);
+}
+
+double ControlPanel::playbackRate() const
+{
+    return mUi->fcbox_Rate->itemData(mUi->fcbox_Rate->currentIndex()).toDouble();
+}
+
+void ControlPanel::setMaxDuration(int seconds)
+{
+    mDuration = seconds;
+    mUi->hSlider_Seek->setMaximum(seconds);
+}
+
+void ControlPanel::setCurrentPosition(int seconds)
+{
+    if (!mUi->hSlider_Seek->isSliderDown())
+        mUi->hSlider_Seek->setValue(seconds);
+
+    const bool withHours = mDuration >= FirstDurationWithHours;
+    mUi->lbl_PlayTime->setText(clockText(seconds, withHours) + QLatin1Char('/') +
+                               clockText(mDuration, withHours));
+    // Last, because the listener may start the next recording, whose position must stand.
+    if (seconds == mDuration && mDuration != 0)
+        emit next();
+}
+
+void ControlPanel::setStoped()
+{
+    emit stop();
+    setCurrentPosition(0);
+}
+
+void ControlPanel::setGpsSpeed(int kmh)
+{
+    mSpeedKmh = kmh;
+    mIsKmh = Configuration::GetInstance()->speedUnit() == 0;
+    const int shown = mIsKmh ? kmh : int(kmh / KmPerMile);
+    const QString text = mIsKmh ? tr("%1 km/h") : tr("%1 MPH");
+    mUi->pBtn_SP->setText(text.arg(shown, 3, 10, QLatin1Char('0')));
+    update();
+}
+
+void ControlPanel::setGpsDataTime(const QDateTime &dateTime)
+{
+    mUi->lbl_GpsDateTime->setText(dateTime.toString(QStringLiteral("yyyy/MM/dd hh:mm:ss")));
+}
+
+void ControlPanel::setLongitudeAndLatitude(const QString &first, const QString &second)
+{
+    mUi->lbl_LongitudeAndLatitude->setText(QStringLiteral("%1,%2").arg(first, second));
+}
+
+void ControlPanel::reinit()
+{
+    setLongitudeAndLatitude(QStringLiteral("00.000000"), QStringLiteral("000.000000"));
+    setGpsDataTime(QDateTime::currentDateTime());
+    setGpsSpeed(0);
+    setCurrentPosition(0);
+}
+
+void ControlPanel::setSliderMove(int deltaSeconds)
+{
+    const int target = mUi->hSlider_Seek->value() + deltaSeconds;
+    if (mState == QMediaPlayer::StoppedState || target < 0 || target > mUi->hSlider_Seek->maximum())
+        return;
+    emit sliderMoved(target);
+}
+
+void ControlPanel::setState(QMediaPlayer::State state)
+{
+    if (state == mState)
+        return;
+    mState = state;
+    mUi->btn_Stop->setEnabled(state != QMediaPlayer::StoppedState);
+    mUi->btn_PlayOrPause->setChecked(state == QMediaPlayer::PlayingState);
+    mUi->btn_PlayOrPause->update();
+}
+
+void ControlPanel::setVolume(int volume)
+{
+    mUi->hSlider_Volume->setValue(
+        convertedVolume(volume, QAudio::LinearVolumeScale, QAudio::LogarithmicVolumeScale));
+}
+
+void ControlPanel::setMuted(bool muted)
+{
+    mMuted = muted;
+}
+
+void ControlPanel::setPlaybackRate(float rate)
+{
+    for (int i = 0; i < mUi->fcbox_Rate->count(); ++i) {
+        if (qFuzzyCompare(rate, mUi->fcbox_Rate->itemData(i).toFloat())) {
+            mUi->fcbox_Rate->setCurrentIndex(i);
+            return;
+        }
+    }
+}
+
+void ControlPanel::playClicked()
+{
+    // A click has toggled the button, but only the player's state decides how it looks.
+    mUi->btn_PlayOrPause->setChecked(mState == QMediaPlayer::PlayingState);
+    if (mState == QMediaPlayer::PlayingState)
+        emit pause();
+    else
+        emit play();
+}
+
+void ControlPanel::muteClicked()
+{
+    emit changeMuting(!mMuted);
+}
+
+void ControlPanel::updateRate()
+{
+    emit changeRate(playbackRate());
+}
+
+void ControlPanel::onVolumeSliderValueChanged()
+{
+    emit changeVolume(volume());
+}
+
+void ControlPanel::onUpdateLanguage()
+{
+    // The form's texts are placeholders; what the read-outs show stays.
+    const QString dateTime = mUi->lbl_GpsDateTime->text();
+    const QString coordinates = mUi->lbl_LongitudeAndLatitude->text();
+    const QString playTime = mUi->lbl_PlayTime->text();
+    mUi->retranslateUi(this);
+    mUi->lbl_GpsDateTime->setText(dateTime);
+    mUi->lbl_LongitudeAndLatitude->setText(coordinates);
+    mUi->lbl_PlayTime->setText(playTime);
+    setGpsSpeed(mSpeedKmh);
+}
+
+void ControlPanel::onSliderStatusProcess()
+{
+    emit sliderStatusChanged(mUi->hSlider_Seek->isSliderDown(),
+                             mUi->hSlider_Seek->sliderPosition());
+}
+
+void ControlPanel::fillRates()
+{
+    mUi->fcbox_Rate->addItem(QStringLiteral("0.5x"), 0.5);
+    mUi->fcbox_Rate->addItem(QStringLiteral("1.0x"), 1.0);
+    mUi->fcbox_Rate->addItem(QStringLiteral("2.0x"), 2.0);
+    mUi->fcbox_Rate->setCurrentIndex(NormalRateIndex);
+}
+
+void ControlPanel::connectButtons()
+{
+    connect(mUi->btn_OpenFile, &QPushButton::clicked, this, &ControlPanel::openFile);
+    connect(mUi->btn_ScreenShot, &QPushButton::clicked, this, &ControlPanel::screenshot);
+    connect(mUi->btn_PlayOrPause, &QPushButton::clicked, this, &ControlPanel::playClicked);
+    connect(mUi->btn_Stop, &QPushButton::clicked, this, &ControlPanel::stop);
+    connect(mUi->btn_Next, &QPushButton::clicked, this, &ControlPanel::next);
+    connect(mUi->btn_Previous, &QPushButton::clicked, this, &ControlPanel::previous);
+    connect(mUi->tBtn_Mute, &QToolButton::clicked, this, &ControlPanel::muteClicked);
+}
+
+void ControlPanel::connectSliders()
+{
+    connect(mUi->hSlider_Volume, &QSlider::valueChanged, this,
+            &ControlPanel::onVolumeSliderValueChanged);
+    connect(mUi->hSlider_Seek, &QSlider::sliderMoved, this, &ControlPanel::sliderMoved);
+    connect(mUi->hSlider_Seek, &QSlider::sliderPressed, this, &ControlPanel::onSliderStatusProcess);
+    connect(mUi->hSlider_Seek, &QSlider::sliderReleased, this,
+            &ControlPanel::onSliderStatusProcess);
+}

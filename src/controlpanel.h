@@ -1,0 +1,92 @@
+// SPDX-FileCopyrightText: 2026 Quellfern
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QMediaPlayer>
+#include <QString>
+#include <QWidget>
+
+#include <memory>
+
+class QDateTime;
+
+namespace Ui {
+class ControlPanel;
+}
+
+/**
+ * The control bar under the video: transport buttons, seek slider with times, rate, mute and
+ * volume, and three read-outs of the telemetry. It holds no media: it emits requests, and shows
+ * the state, position and telemetry that it is given.
+ */
+class ControlPanel : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit ControlPanel(QWidget *parent = nullptr);
+    ~ControlPanel() override;
+
+    /** The state last set; Stopped at first. */
+    QMediaPlayer::State state() const { return mState; }
+    /** 0 to 100 on the players' linear scale. */
+    int volume() const;
+    bool isMuted() const { return mMuted; }
+    /** The selected rate, 1 for normal speed. */
+    double playbackRate() const;
+
+    void setMaxDuration(int seconds);
+    /** Shows the position in seconds; at the end of the recording emits next(). */
+    void setCurrentPosition(int seconds);
+    /** Asks for a stop and shows position 0. */
+    void setStoped();
+
+    void setGpsSpeed(int kmh);
+    void setGpsDataTime(const QDateTime &dateTime);
+    /** Shows both texts as given, in this order. */
+    void setLongitudeAndLatitude(const QString &first, const QString &second);
+    /** Shows what stands there without a recording: position 0, no coordinates, speed 0, now. */
+    void reinit();
+    /** Asks for a seek by @p deltaSeconds; nothing while stopped or beyond the recording. */
+    void setSliderMove(int deltaSeconds);
+
+signals:
+    void openFile();
+    void screenshot();
+    void play();
+    void pause();
+    void stop();
+    void next();
+    void previous();
+    void changeVolume(int volume);
+    void changeMuting(bool muting);
+    void changeRate(double rate);
+    /** Seek to this second. */
+    void sliderMoved(int position);
+    void sliderStatusChanged(bool isSliderDown, int seconds);
+
+public slots:
+    void setState(QMediaPlayer::State state);
+    void setVolume(int volume);
+    void setMuted(bool muted);
+    /** Selects the item with this rate; a rate that is not in the list changes nothing. */
+    void setPlaybackRate(float rate);
+    void playClicked();
+    void muteClicked();
+    void updateRate();
+    void onVolumeSliderValueChanged();
+    void onUpdateLanguage();
+    void onSliderStatusProcess();
+
+private:
+    void fillRates();
+    void connectButtons();
+    void connectSliders();
+
+    std::unique_ptr<Ui::ControlPanel> mUi;
+    QMediaPlayer::State mState = QMediaPlayer::StoppedState;
+    bool mMuted = false;
+    int mDuration = 0; // seconds
+    bool mIsKmh = true;
+    int mSpeedKmh = 0;
+};

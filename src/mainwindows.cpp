@@ -1,0 +1,452 @@
+// SPDX-FileCopyrightText: 2026 Quellfern
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "mainwindows.h"
+
+#include "ui_mainwindows.h"
+
+#include "appname.h"
+#include "configuration.h"
+#include "mediaurl.h"
+#include "movefilter.h"
+#include "playlistmodel.h"
+#include "rowdata.h"
+
+#include <QDateTime>
+#include <QDebug>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollBar>
+#include <QTime>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr int RowHeight = 38;
+// The last column takes the rest, but no less than this.
+constexpr int ColumnWidths[] = {200, 80, 140, 80, 80};
+
+const char TableStyle[] =
+    "QTableView{color: rgb(170, 170, 170); background-color: rgb(44, 44, 52); border: none;"
+    " alternate-background-color: rgb(54, 54, 62);"
+    " selection-background-color: rgb(73, 85, 114); selection-color: rgb(250, 250, 250);}";
+
+// Set on the header itself: below a dialog with a style sheet, sections do not inherit theirs.
+const char HeaderStyle[] =
+    "QHeaderView{background-color: rgb(20, 20, 20);}"
+    "QHeaderView::section{height: 24px; color: white; background-color: rgb(20, 20, 20);"
+    " border: none;}";
+
+// %1 the orientation, %2 the dimension across the bar.
+const char ScrollBarStyle[] =
+    "QScrollBar:%1{%2: 8px; background: rgb(40, 40, 48); margin: 0px; border: none;}"
+    "QScrollBar::handle:%1{background: rgb(60, 60, 68); border-radius: 5px; min-%3: 24px;}"
+    "QScrollBar::handle:%1:hover{background: rgb(170, 170, 170);}"
+    "QScrollBar::add-line:%1, QScrollBar::sub-line:%1{width: 0px; height: 0px;}"
+    "QScrollBar::add-page:%1, QScrollBar::sub-page:%1{background: none;}";
+
+QFont pixelFont(const QString &family, int pixelSize, QFont::Weight weight)
+{
+    QFont font(family);
+    font.setPixelSize(pixelSize);
+    font.setWeight(weight);
+    return font;
+}
+
+bool isOnAnyScreen(const QPoint &point)
+{
+    const QList<QScreen *> screens = QGuiApplication::screens();
+    return std::any_of(screens.begin(), screens.end(),
+                       [&](const QScreen *screen) { return screen->geometry().contains(point); });
+}
+
+/** The hemisphere letter carries the sign. */
+QString coordinateText(char reference, double degrees)
+{
+    return QLatin1Char(reference) + QString::number(std::fabs(degrees), 'f', 6);
+}
+
+} // namespace
+
+void shell::sleep(unsigned int ms)
+{
+    const QTime end = QTime::currentTime().addMSecs(int(ms));
+    while (QTime::currentTime() < end)
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 100);
+}
+
+MainWindows::MainWindows(QWidget *parent)
+    : QDialog(parent), mUi(std::make_unique<Ui::MainWindows>())
+{
+    mUi->setupUi(this);
+    setWindowTitle(APP_NAME);
+    installMoving();
+    mUi->wgt_ControlPanel->setFocusPolicy(Qt::StrongFocus);
+    setupPlaylistTable();
+    setupControlPanel();
+    disableMissingFeatures();
+    setAppName(APP_NAME);
+    connectControlPanel();
+    connectPlayArea();
+    connectPlaylistAndSettings();
+    restoreGeometryFromSettings();
+}
+
+MainWindows::~MainWindows()
+{
+    // Waiting for the workers processes events, which must not reach this window any more.
+    mUi->wgt_PlayArea->disconnect(this);
+    mUi->wgt_PlayArea->stop();
+    mPlaylistModel->disconnect(this);
+    delete mPlaylistModel;
+    mPlaylistModel = nullptr;
+}
+
+void MainWindows::setAppName(const QString &name)
+{
+    mUi->lbl_Title->setFullText(name, pixelFont(QStringLiteral("Arial"), 15, QFont::Bold));
+}
+
+void MainWindows::setTitleFileName(const QString &name)
+{
+    mUi->lbl_FileName->setFullText(name, pixelFont(QStringLiteral("Calibri"), 13, QFont::Normal));
+}
+
+void MainWindows::openRecordings(const QList<QUrl> &urls)
+{
+    if (urls.isEmpty())
+        return;
+    const int first = mPlaylistModel->addDataByUrl(urls.first());
+    for (const QUrl &url : urls)
+        mPlaylistModel->addDataByUrl(url);
+    playByData(mPlaylistModel->getRowData(first));
+}
+
+void MainWindows::playByData(const RowData *row)
+{
+    if (!row || !row->url.isValid())
+        return;
+    mUi->tbl_PlayListView->selectRow(row->id);
+    mUi->wgt_PlayArea->stop();
+    const RowData *related = mPlaylistModel->getRelateDataByMainData(*row);
+    mUi->wgt_PlayArea->setPlayerNum(related ? 2 : 1);
+    mUi->wgt_PlayArea->setResourceData(row, related);
+    setTitleFileName(row->url.fileName(QUrl::FullyDecoded));
+    mPlaylistModel->updateAllGpsData(row->id);
+}
+
+void MainWindows::onUpdateLanguage()
+{
+    mUi->retranslateUi(this);
+    QCoreApplication::setApplicationName(APP_NAME);
+    QCoreApplication::setOrganizationName(QObject::tr("Quellfern"));
+    QCoreApplication::setApplicationVersion(APP_VERSION);
+    setAppName(APP_NAME);
+    // The form has cleared it; it stays clear until the next recording starts.
+    setTitleFileName(QString());
+    setWindowTitle(QCoreApplication::applicationName());
+    showMaximizedState();
+}
+
+void MainWindows::openFile()
+{
+    qDebug() << "open file--";
+    const QList<QUrl> urls = askForRecordings();
+    int lastRow = -1;
+    for (const QUrl &url : urls) {
+        if (!QFileInfo(url.toLocalFile()).isDir())
+            lastRow = mPlaylistModel->addDataByUrl(url);
+    }
+    if (lastRow < 0)
+        return;
+    const QString folder = QFileInfo(urls.last().toLocalFile()).absolutePath();
+    Configuration::GetInstance()->setVideoFilePath(folder);
+    qDebug() << "all file count:" << lastRow;
+    qDebug() << "select file count:" << urls.size();
+    mUi->tbl_PlayListView->selectRow(lastRow - urls.size() + 1);
+    onTableDoubleClicked(mUi->tbl_PlayListView->currentIndex());
+}
+
+void MainWindows::onDropFile(const QString &filePath)
+{
+    const int row = mPlaylistModel->addDataByUrl(QUrl(filePath));
+    mUi->tbl_PlayListView->selectRow(row);
+    onTableDoubleClicked(mUi->tbl_PlayListView->currentIndex());
+}
+
+void MainWindows::onStop()
+{
+    mUi->wgt_PlayArea->stop();
+    mUi->wgt_ControlPanel->reinit();
+    setTitleFileName(QString());
+}
+
+void MainWindows::playClicked()
+{
+    if (mUi->wgt_ControlPanel->state() == QMediaPlayer::PausedState) {
+        mUi->wgt_PlayArea->play();
+        return;
+    }
+    const QModelIndexList selected = mUi->tbl_PlayListView->selectionModel()->selectedRows();
+    if (!selected.isEmpty())
+        playByData(mPlaylistModel->getRowData(selected.first().row()));
+}
+
+void MainWindows::previousClicked()
+{
+    const QUrl current = mediaUrl(mUi->wgt_PlayArea->media());
+    playByData(mPlaylistModel->getPreviousDataByCurrentUrl(current));
+}
+
+// Only the end of the list puts the control bar into its stopped look; its beginning does not.
+void MainWindows::nextClicked()
+{
+    const QUrl current = mediaUrl(mUi->wgt_PlayArea->media());
+    if (const RowData *next = mPlaylistModel->getNextDataByCurrentUrl(current))
+        playByData(next);
+    else
+        mUi->wgt_ControlPanel->setStoped();
+}
+
+void MainWindows::durationChanged(qint64 duration)
+{
+    mUi->wgt_ControlPanel->setMaxDuration(int(duration / 1000));
+}
+
+void MainWindows::positionChanged(qint64 second, int rowId)
+{
+    mUi->wgt_ControlPanel->setCurrentPosition(int(second));
+    mPlaylistModel->setCurPlayPosition(rowId, int(second));
+}
+
+// There is no settings dialog yet; the button is disabled.
+void MainWindows::on_pBtn_Step_clicked() {}
+
+void MainWindows::on_pBtn_Minimize_clicked()
+{
+    qDebug() << "最小化--";
+    showMinimized();
+}
+
+void MainWindows::on_pBtn_Maximize_clicked()
+{
+    if (isMaximized())
+        showNormal();
+    else
+        showMaximized();
+    showMaximizedState();
+}
+
+void MainWindows::on_pBtn_Close_clicked()
+{
+    close();
+}
+
+void MainWindows::onTableDoubleClicked(const QModelIndex &index)
+{
+    if (index.isValid())
+        playByData(mPlaylistModel->getRowData(index.row()));
+}
+
+void MainWindows::onGpsDataChanged(int rowId, const GpsData &sample)
+{
+    ControlPanel *panel = mUi->wgt_ControlPanel;
+    if (panel->state() == QMediaPlayer::StoppedState || !isPlayingRow(rowId))
+        return;
+    // Latitude first, whatever the name says: the bar reads like its placeholder.
+    panel->setLongitudeAndLatitude(coordinateText(sample.latitudeRef, sample.latitude),
+                                   coordinateText(sample.longitudeRef, sample.longitude));
+    panel->setGpsDataTime(
+        QDateTime::fromString(QLatin1String(sample.time), QStringLiteral("yyyyMMddhhmmss")));
+    panel->setGpsSpeed(sample.speed);
+}
+
+void MainWindows::onAllGpsDataParserFinished(int rowId, const QList<GpsData> &)
+{
+    if (isPlayingRow(rowId))
+        mUi->wgt_PlayArea->play();
+}
+
+void MainWindows::onKeyPressEvent(QKeyEvent *event)
+{
+    if (controlPlayback(event->key()))
+        event->accept();
+}
+
+void MainWindows::onFullScreenChanged(bool) {}
+
+void MainWindows::keyPressEvent(QKeyEvent *event)
+{
+    qDebug() << "MainWindows::keyPressEvent" << event->key();
+    // Escape is swallowed: it must never close the window.
+    if (controlPlayback(event->key()) || event->key() == Qt::Key_Escape)
+        event->accept();
+    else
+        QDialog::keyPressEvent(event);
+}
+
+void MainWindows::closeEvent(QCloseEvent *event)
+{
+    Configuration::GetInstance()->setMainwindowsRect(geometry());
+    Configuration::GetInstance()->setMainwindowsIsMaximize(isMaximized());
+    event->accept();
+}
+
+// The window manager may maximise or restore the window as well.
+void MainWindows::changeEvent(QEvent *event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange)
+        showMaximizedState();
+}
+
+void MainWindows::installMoving()
+{
+    const MoveFilter *filter = MoveFilter::installMoveFilter(this, this);
+    connect(filter, &MoveFilter::doubleClicked, this, &MainWindows::on_pBtn_Maximize_clicked);
+    mUi->wgt_Grip->setEnabled(false);
+    setSizeGripEnabled(true);
+}
+
+void MainWindows::setupPlaylistTable()
+{
+    mPlaylistModel = new PlaylistModel(this);
+    QTableView *table = mUi->tbl_PlayListView;
+    table->setModel(mPlaylistModel);
+    table->setAlternatingRowColors(true);
+    table->setGridStyle(Qt::DashDotLine);
+    table->setShowGrid(false);
+    table->setFocusPolicy(Qt::NoFocus);
+    table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    table->setSelectionMode(QAbstractItemView::SingleSelection);
+    table->verticalHeader()->setVisible(false);
+    table->verticalHeader()->setDefaultSectionSize(RowHeight);
+    table->horizontalHeader()->setHighlightSections(false);
+    table->horizontalHeader()->setStretchLastSection(true);
+    // The style's minimum, the font's widest glyph, would not let the last section fit.
+    table->horizontalHeader()->setMinimumSectionSize(RowHeight);
+    for (int column = 0; column < int(std::size(ColumnWidths)); ++column)
+        table->setColumnWidth(column, ColumnWidths[column]);
+    table->setStyleSheet(QLatin1String(TableStyle));
+    table->horizontalHeader()->setStyleSheet(QLatin1String(HeaderStyle));
+    const QString scrollBarStyle = QLatin1String(ScrollBarStyle);
+    table->verticalScrollBar()->setStyleSheet(scrollBarStyle.arg(
+        QStringLiteral("vertical"), QStringLiteral("width"), QStringLiteral("height")));
+    table->horizontalScrollBar()->setStyleSheet(scrollBarStyle.arg(
+        QStringLiteral("horizontal"), QStringLiteral("height"), QStringLiteral("width")));
+}
+
+void MainWindows::setupControlPanel()
+{
+    ControlPanel *panel = mUi->wgt_ControlPanel;
+    panel->setState(mUi->wgt_PlayArea->state());
+    panel->setVolume(mUi->wgt_PlayArea->volume());
+    panel->setMuted(panel->isMuted());
+}
+
+// What is not part of the program yet must not look as if it could be used.
+void MainWindows::disableMissingFeatures()
+{
+    mUi->pBtn_Step->setEnabled(false);
+    mUi->wgt_ControlPanel->findChild<QPushButton *>(QStringLiteral("btn_ScreenShot"))
+        ->setEnabled(false);
+}
+
+void MainWindows::connectControlPanel()
+{
+    const ControlPanel *panel = mUi->wgt_ControlPanel;
+    const PlayAreaManager *area = mUi->wgt_PlayArea;
+    connect(panel, &ControlPanel::pause, area, &PlayAreaManager::pause);
+    connect(panel, &ControlPanel::changeVolume, area, &PlayAreaManager::setVolume);
+    connect(panel, &ControlPanel::changeMuting, area, &PlayAreaManager::setMuted);
+    connect(panel, &ControlPanel::changeRate, area, &PlayAreaManager::setPlaybackRate);
+    connect(panel, &ControlPanel::sliderMoved, area, &PlayAreaManager::seek);
+    connect(panel, &ControlPanel::sliderStatusChanged, area,
+            &PlayAreaManager::onSliderStatusChanged);
+    connect(panel, &ControlPanel::stop, this, &MainWindows::onStop);
+    connect(panel, &ControlPanel::openFile, this, &MainWindows::openFile);
+    connect(panel, &ControlPanel::play, this, &MainWindows::playClicked);
+    connect(panel, &ControlPanel::previous, this, &MainWindows::previousClicked);
+    connect(panel, &ControlPanel::next, this, &MainWindows::nextClicked);
+}
+
+void MainWindows::connectPlayArea()
+{
+    const ControlPanel *panel = mUi->wgt_ControlPanel;
+    const PlayAreaManager *area = mUi->wgt_PlayArea;
+    connect(area, &PlayAreaManager::stateChanged, panel, &ControlPanel::setState);
+    connect(area, &PlayAreaManager::volumeChanged, panel, &ControlPanel::setVolume);
+    connect(area, &PlayAreaManager::mutedChanged, panel, &ControlPanel::setMuted);
+    connect(area, &PlayAreaManager::durationChanged, this, &MainWindows::durationChanged);
+    connect(area, &PlayAreaManager::positionChanged, this, &MainWindows::positionChanged);
+    connect(area, &PlayAreaManager::keyPressSignals, this, &MainWindows::onKeyPressEvent);
+    connect(area, &PlayAreaManager::fullScreenChanged, this, &MainWindows::onFullScreenChanged);
+    connect(area, &PlayAreaManager::dropFile, this, &MainWindows::onDropFile);
+}
+
+void MainWindows::connectPlaylistAndSettings()
+{
+    connect(mUi->tbl_PlayListView, &QTableView::doubleClicked, this,
+            &MainWindows::onTableDoubleClicked);
+    connect(mPlaylistModel, &PlaylistModel::gpsDataChanged, this, &MainWindows::onGpsDataChanged);
+    connect(mPlaylistModel, &PlaylistModel::allGpsDataParserFinished, this,
+            &MainWindows::onAllGpsDataParserFinished);
+    connect(Configuration::GetInstance(), &Configuration::updateLanguage, this,
+            &MainWindows::onUpdateLanguage);
+}
+
+void MainWindows::restoreGeometryFromSettings()
+{
+    QRect rect = Configuration::GetInstance()->getMainwindowsRect();
+    if (!isOnAnyScreen(rect.center()))
+        rect = Configuration::defaultMainwindowsRect();
+    if (Configuration::GetInstance()->getMainwindowsIsMaximize())
+        on_pBtn_Maximize_clicked();
+    else
+        setGeometry(rect);
+}
+
+void MainWindows::showMaximizedState()
+{
+    const bool maximized = isMaximized();
+    mUi->pBtn_Maximize->setChecked(maximized);
+    mUi->pBtn_Maximize->setToolTip(maximized ? tr("Restore Down") : tr("Maximize"));
+}
+
+QList<QUrl> MainWindows::askForRecordings()
+{
+    QFileDialog dialog(this, tr("Open Files"), Configuration::GetInstance()->videoFilePath(),
+                       QStringLiteral("*.mov *.mp4 *.avi"));
+    dialog.setAcceptMode(QFileDialog::AcceptOpen);
+    dialog.setFileMode(QFileDialog::ExistingFiles);
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedUrls() : QList<QUrl>();
+}
+
+bool MainWindows::controlPlayback(int key)
+{
+    switch (key) {
+    case Qt::Key_Space:
+        mUi->wgt_ControlPanel->playClicked();
+        return true;
+    case Qt::Key_Left:
+        mUi->wgt_ControlPanel->setSliderMove(-1);
+        return true;
+    case Qt::Key_Right:
+        mUi->wgt_ControlPanel->setSliderMove(1);
+        return true;
+    default:
+        return false;
+    }
+}
+
+/** Whether a delivery for this row is still wanted. */
+bool MainWindows::isPlayingRow(int rowId) const
+{
+    const RowData *playing = mUi->wgt_PlayArea->mainRow();
+    return rowId == (playing ? playing->id : -1);
+}

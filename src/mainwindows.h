@@ -1,0 +1,100 @@
+// SPDX-FileCopyrightText: 2026 Quellfern
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "gpsdata.h"
+
+#include <QDialog>
+#include <QList>
+#include <QModelIndex>
+
+#include <memory>
+
+class PlaylistModel;
+class QKeyEvent;
+class QTableView;
+class QUrl;
+struct RowData;
+
+namespace Ui {
+class MainWindows;
+}
+
+namespace shell {
+
+/** Processes events for @p ms milliseconds of the time of day; a wait across midnight ends at
+ *  once. */
+void sleep(unsigned int ms);
+
+} // namespace shell
+
+/**
+ * The one top-level window: frameless, with a title bar of its own, the play area above control
+ * bar and playlist on the left, and the telemetry displays on the right. It wires all of them
+ * together, turns the user's requests into playback, and routes telemetry to the displays.
+ *
+ * GUI thread only. Owns the playlist model, which goes before the widgets.
+ */
+class MainWindows : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit MainWindows(QWidget *parent = nullptr);
+    ~MainWindows() override;
+
+    void setAppName(const QString &name);
+    void setTitleFileName(const QString &name);
+
+    /** Adds the recordings in order and plays the first of them. Nothing for an empty list. */
+    void openRecordings(const QList<QUrl> &urls);
+    /** Plays a row, beside its related recording if the playlist has one, once its telemetry has
+     *  been delivered. Nothing for null. */
+    void playByData(const RowData *row);
+
+public slots:
+    void onUpdateLanguage();
+    void openFile();
+    /** @param filePath the recording's URL as text. */
+    void onDropFile(const QString &filePath);
+    void onStop();
+    void playClicked();
+    void previousClicked();
+    void nextClicked();
+    /** @param duration in milliseconds. */
+    void durationChanged(qint64 duration);
+    void positionChanged(qint64 second, int rowId);
+    void on_pBtn_Step_clicked();
+    void on_pBtn_Minimize_clicked();
+    void on_pBtn_Maximize_clicked();
+    void on_pBtn_Close_clicked();
+    void onTableDoubleClicked(const QModelIndex &index);
+    void onGpsDataChanged(int rowId, const GpsData &sample);
+    void onAllGpsDataParserFinished(int rowId, const QList<GpsData> &dataList);
+    void onKeyPressEvent(QKeyEvent *event);
+    void onFullScreenChanged(bool fullScreen);
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
+    void changeEvent(QEvent *event) override;
+
+private:
+    void installMoving();
+    void setupPlaylistTable();
+    void setupControlPanel();
+    void disableMissingFeatures();
+    void connectControlPanel();
+    void connectPlayArea();
+    void connectPlaylistAndSettings();
+    void restoreGeometryFromSettings();
+
+    void showMaximizedState();
+    QList<QUrl> askForRecordings();
+    /** Handles the keys that control playback; returns whether it was one. */
+    bool controlPlayback(int key);
+    bool isPlayingRow(int rowId) const;
+
+    std::unique_ptr<Ui::MainWindows> mUi;
+    PlaylistModel *mPlaylistModel = nullptr; // deleted by hand: it goes before the widgets
+};

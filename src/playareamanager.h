@@ -1,0 +1,116 @@
+// SPDX-FileCopyrightText: 2026 Quellfern
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "playerwidget.h"
+
+#include <QElapsedTimer>
+#include <QMediaContent>
+#include <QMediaPlayer>
+#include <QWidget>
+
+class QHBoxLayout;
+class QKeyEvent;
+class QMimeData;
+struct RowData;
+
+/**
+ * The area that shows the video: one player for the main recording, and a second one beside it
+ * while the main recording has a related one from the other camera. Commands go to both; the
+ * second is always muted and is kept in step with the first.
+ *
+ * Rows are not owned; they must outlive their use here. GUI thread only.
+ */
+class PlayAreaManager : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit PlayAreaManager(QWidget *parent = nullptr);
+    ~PlayAreaManager() override;
+
+    /** 1 or 2 players; any other number changes nothing. */
+    void setPlayerNum(int num);
+    /** Loads the recordings without starting them. @p related must not be null with two players. */
+    void setResourceData(const RowData *main, const RowData *related);
+
+    /** The row of the main recording, null until one has been set. */
+    const RowData *mainRow() const { return mMainRow; }
+    /** Media, state and volume (0 to 100, linear) of the main player. */
+    QMediaContent media() const;
+    QMediaPlayer::State state() const;
+    int volume() const;
+
+    /** The widgets of both players, for looking at what they show; the second may be null. */
+    PlayerWidget *mainPlayer() const { return mMain; }
+    PlayerWidget *secondPlayer() const { return mSecond; }
+
+    /** Whether a path or URL text ends like a recording: mp4, mov or avi in any case. */
+    static bool isRecordingName(const QString &text);
+
+signals:
+    // Relayed from the main player; the duration is in milliseconds.
+    void stateChanged(QMediaPlayer::State newState);
+    void volumeChanged(int volume);
+    void mutedChanged(bool muted);
+    void durationChanged(qint64 duration);
+    /** On every report of the main player: its position in whole seconds, and its row. */
+    void positionChanged(qint64 second, int rowId);
+    // Relayed from either player.
+    void keyPressSignals(QKeyEvent *event);
+    void fullScreenChanged(bool fullScreen);
+    /** One dropped recording, as URL text. */
+    void dropFile(const QString &filePath);
+
+public slots:
+    void play();
+    void pause();
+    void stop();
+    void seek(int seconds);
+    void setVolume(int volume);
+    void setMuted(bool muted);
+    void setPlaybackRate(double rate);
+    void update();
+    /** Pauses while the seek slider is held; on release seeks to @p seconds and plays on. */
+    void onSliderStatusChanged(bool isSliderDown, int seconds);
+    void onPositionChanged(qint64 position);
+
+protected:
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
+
+private:
+    static QStringList droppedRecordings(const QMimeData &data);
+
+    void createLayouts();
+    void relayMainPlayer();
+    void relayKeysAndFullScreen(PlayerWidget *player);
+    void addToLayout(PlayerWidget *player);
+    void createSecond();
+    void destroySecond();
+    void nudgeGeometry();
+
+    bool secondHasSomethingAt(qint64 positionMs) const;
+    void playSecond();
+    void seekSecond(qint64 positionMs);
+    void holdSyncFor(qint64 settleMs);
+    void keepInStep();
+    void rejoin(qint64 mainMs);
+    void correctSecond(qint64 mainMs);
+    void learnSeekLag(qint64 aheadMs);
+
+    QHBoxLayout *mPlayersLayout = nullptr;
+    PlayerWidget *mMain = nullptr;   // a child, never null
+    PlayerWidget *mSecond = nullptr; // a child, deleted by hand when one player is enough
+    const RowData *mMainRow = nullptr;
+    const RowData *mRelatedRow = nullptr;
+    bool mNudgePending = false;
+    bool mNudgeGrows = true;
+
+    // Keeping in step: nothing is measured before the players have settled after a command.
+    QElapsedTimer mSinceCommand;
+    qint64 mSettleMs = 0;
+    int mReportsOff = 0;
+    qint64 mSeekLagMs = 0;
+    bool mCorrectionPending = false;
+};

@@ -1,0 +1,92 @@
+// SPDX-FileCopyrightText: 2026 Quellfern
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "playerwidget.h"
+
+#include <QDebug>
+#include <QKeyEvent>
+#include <QMetaEnum>
+
+PlayerWidget::PlayerWidget(QWidget *parent) : QVideoWidget(parent)
+{
+    mPlayer.setAudioRole(QAudio::VideoRole);
+    mPlayer.setVideoOutput(this);
+    connect(&mPlayer, &QMediaPlayer::stateChanged, this, &PlayerWidget::onStateChanged);
+    connect(&mPlayer, QOverload<QMediaPlayer::Error>::of(&QMediaPlayer::error), this,
+            &PlayerWidget::onError);
+    setUpdatesEnabled(true);
+}
+
+PlayerWidget::~PlayerWidget() = default;
+
+void PlayerWidget::onStateChanged(QMediaPlayer::State newState)
+{
+    // While a recording is shown, the video output draws for itself; a repaint would flicker.
+    const bool stopped = newState == QMediaPlayer::StoppedState;
+    setUpdatesEnabled(stopped);
+    if (stopped)
+        update();
+}
+
+void PlayerWidget::onError(QMediaPlayer::Error error)
+{
+    const QMetaObject &meta = QMediaPlayer::staticMetaObject;
+    const QMetaEnum errors = meta.enumerator(meta.indexOfEnumerator("Error"));
+    const QByteArray name = QByteArrayLiteral("QMediaPlayer::") + errors.valueToKey(error);
+    qDebug() << "onError" << name.constData() << mPlayer.errorString();
+    if (error != QMediaPlayer::NoError)
+        setUpdatesEnabled(true);
+}
+
+void PlayerWidget::keyPressEvent(QKeyEvent *event)
+{
+    qDebug() << "PlayerWidget::keyPressEvent" << event->key() << event->modifiers();
+    if (isFullScreen()) {
+        keyPressInFullScreen(event);
+        return;
+    }
+    // Required: the modifiers are tested against the code of the Alt key, which no modifier flag
+    // matches, so the keyboard never enters full screen.
+    if (event->key() == Qt::Key_Enter && (int(event->modifiers()) & Qt::Key_Alt) != 0) {
+        qDebug() << "Key_Enter, setValue=" << !isFullScreen();
+        changeFullScreen(!isFullScreen());
+        event->accept();
+        return;
+    }
+    QWidget::keyPressEvent(event);
+}
+
+void PlayerWidget::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    changeFullScreen(!isFullScreen());
+    event->accept();
+}
+
+// Past the video widget's own handler, so that presses reach the window and can drag it.
+void PlayerWidget::mousePressEvent(QMouseEvent *event)
+{
+    QWidget::mousePressEvent(event);
+}
+
+void PlayerWidget::keyPressInFullScreen(QKeyEvent *event)
+{
+    switch (event->key()) {
+    case Qt::Key_Space:
+    case Qt::Key_Left:
+    case Qt::Key_Right:
+        emit keyPressSignals(event);
+        break;
+    case Qt::Key_Escape:
+        qDebug() << "Key_Escape, setValue=" << false;
+        changeFullScreen(false);
+        event->accept();
+        break;
+    default:
+        break;
+    }
+}
+
+void PlayerWidget::changeFullScreen(bool isFull)
+{
+    emit fullScreen(isFull);
+    setFullScreen(isFull);
+}

@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: 2026 Quellfern
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QMediaPlayer>
+#include <QVideoWidget>
+
+class QKeyEvent;
+
+/**
+ * One video player: a video widget with the media player that draws into it. Switches to full
+ * screen and back by double click, back by Escape too, and hands the keys that matter in full
+ * screen to its owner. Media errors are logged, never shown.
+ *
+ * GUI thread only.
+ */
+class PlayerWidget : public QVideoWidget
+{
+    Q_OBJECT
+
+public:
+    explicit PlayerWidget(QWidget *parent = nullptr);
+    ~PlayerWidget() override;
+
+    /** The embedded player, owned by the widget. */
+    QMediaPlayer *player() { return &mPlayer; }
+    const QMediaPlayer *player() const { return &mPlayer; }
+
+signals:
+    /** A navigation key pressed in full screen; valid during the emission only. */
+    void keyPressSignals(QKeyEvent *event);
+    /** Emitted before the widget enters or leaves full screen. */
+    void fullScreen(bool isFull);
+
+public slots:
+    void onStateChanged(QMediaPlayer::State newState);
+    void onError(QMediaPlayer::Error error);
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+
+private:
+    void keyPressInFullScreen(QKeyEvent *event);
+    void changeFullScreen(bool isFull);
+
+    QMediaPlayer mPlayer;
+};
