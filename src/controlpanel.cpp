@@ -8,6 +8,7 @@
 
 #include <QAudio>
 #include <QDateTime>
+#include <QProxyStyle>
 
 namespace {
 
@@ -20,6 +21,19 @@ int convertedVolume(int volume, QAudio::VolumeScale from, QAudio::VolumeScale to
 {
     return qRound(QAudio::convertVolume(volume / qreal(100), from, to) * 100);
 }
+
+/** A click beside a slider's handle takes the handle there, as in every media player. */
+class JumpToClickStyle : public QProxyStyle
+{
+public:
+    int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                  QStyleHintReturn *returnData) const override
+    {
+        if (hint == SH_Slider_AbsoluteSetButtons)
+            return Qt::LeftButton;
+        return QProxyStyle::styleHint(hint, option, widget, returnData);
+    }
+};
 
 QString twoDigits(int number)
 {
@@ -42,6 +56,7 @@ ControlPanel::ControlPanel(QWidget *parent)
 {
     mUi->setupUi(this);
     fillRates();
+    setupSliders();
     connectButtons();
     connectSliders();
     connect(mUi->fcbox_Rate, &FComboBox::activated, this, &ControlPanel::updateRate);
@@ -216,6 +231,14 @@ void ControlPanel::connectButtons()
     connect(mUi->btn_Next, &QPushButton::clicked, this, &ControlPanel::next);
     connect(mUi->btn_Previous, &QPushButton::clicked, this, &ControlPanel::previous);
     connect(mUi->tBtn_Mute, &QToolButton::clicked, this, &ControlPanel::muteClicked);
+}
+
+void ControlPanel::setupSliders()
+{
+    auto *style = new JumpToClickStyle;
+    style->setParent(this);
+    mUi->hSlider_Seek->setStyle(style);
+    mUi->hSlider_Volume->setStyle(style);
 }
 
 void ControlPanel::connectSliders()

@@ -80,6 +80,7 @@ public slots:
 
 private:
     void fillRates();
+    void setupSliders();
     void connectButtons();
     void connectSliders();
 

@@ -297,12 +297,14 @@ void MainWindows::closeEvent(QCloseEvent *event)
     event->accept();
 }
 
-// The window manager may maximise or restore the window as well.
 void MainWindows::changeEvent(QEvent *event)
 {
     QDialog::changeEvent(event);
+    // The window manager may maximise or restore the window as well.
     if (event->type() == QEvent::WindowStateChange)
         showMaximizedState();
+    else if (event->type() == QEvent::ActivationChange && isActiveWindow())
+        confirmGeometry();
 }
 
 void MainWindows::installMoving()
@@ -409,6 +411,17 @@ void MainWindows::restoreGeometryFromSettings()
         on_pBtn_Maximize_clicked();
     else
         setGeometry(rect);
+    mUnconfirmedRect = isMaximized() ? QRect() : rect;
+}
+
+/** Under X11 the position that Qt notes while the window manager takes the window over may be that
+ *  inside the manager's own frame. Setting the geometry once more makes it ask again; otherwise
+ *  the wrong one would be stored at the end. */
+void MainWindows::confirmGeometry()
+{
+    if (mUnconfirmedRect.isValid() && geometry() != mUnconfirmedRect && !isMaximized())
+        setGeometry(mUnconfirmedRect);
+    mUnconfirmedRect = QRect();
 }
 
 void MainWindows::showMaximizedState()

@@ -88,6 +88,7 @@ private:
     void connectPlayArea();
     void connectPlaylistAndSettings();
     void restoreGeometryFromSettings();
+    void confirmGeometry();
 
     void showMaximizedState();
     QList<QUrl> askForRecordings();
@@ -97,4 +98,5 @@ private:
 
     std::unique_ptr<Ui::MainWindows> mUi;
     PlaylistModel *mPlaylistModel = nullptr; // deleted by hand: it goes before the widgets
+    QRect mUnconfirmedRect;                  // set until the window is active for the first time
 };

@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 Quellfern
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "mediafile.h"
+
+#include "recordingwriter.h"
+
+#include <QDebug>
+#include <QFile>
+#include <QProcess>
+
+namespace {
+
+bool encode(const QString &fileName, int seconds)
+{
+    QProcess ffmpeg;
+    const QString arguments =
+        QStringLiteral("-v error -y -f lavfi -i testsrc2=size=320x180:rate=30"
+                       " -f lavfi -i sine=sample_rate=48000 -t %1 -c:v libx264 -preset ultrafast"
+                       " -g 30 -pix_fmt yuv420p -c:a aac -f mp4")
+            .arg(seconds);
+    ffmpeg.start(QStringLiteral("ffmpeg"), arguments.split(QLatin1Char(' ')) << fileName);
+    const bool done = ffmpeg.waitForFinished(60000) && ffmpeg.exitCode() == 0;
+    if (!done)
+        qWarning() << "ffmpeg:" << ffmpeg.errorString() << ffmpeg.readAllStandardError();
+    return done;
+}
+
+} // namespace
+
+bool makeMediaFile(const QString &fileName, int seconds, const QList<TelemetryBlock> &samples)
+{
+    if (!encode(fileName, seconds))
+        return false;
+    if (samples.isEmpty())
+        return true;
+    QFile file(fileName);
+    if (!file.open(QIODevice::ReadWrite))
+        return false;
+    QByteArray recording = file.readAll();
+    return graftTelemetry(recording, samples, 4) && file.seek(0) &&
+           file.write(recording) == recording.size();
+}
