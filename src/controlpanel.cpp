@@ -90,7 +90,8 @@ void ControlPanel::setCurrentPosition(int seconds)
         mUi->hSlider_Seek->setValue(seconds);
 
     const bool withHours = mDuration >= FirstDurationWithHours;
-    mUi->lbl_PlayTime->setText(clockText(seconds, withHours) + QLatin1Char('/') +
+    const int shown = mDuration == 0 ? qMax(seconds, 0) : seconds;
+    mUi->lbl_PlayTime->setText(clockText(shown, withHours) + QLatin1Char('/') +
                                clockText(mDuration, withHours));
     // Last, because the listener may start the next recording, whose position must stand.
     if (seconds == mDuration && mDuration != 0)

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 #include <limits>
 
 namespace {
@@ -61,6 +62,12 @@ quint32 uint32At(const char *data, int offset)
     return qFromBigEndian<quint32>(data + offset);
 }
 
+bool isAllZero(const QByteArray &bytes)
+{
+    return bytes.at(0) == 0 &&
+           std::memcmp(bytes.constData(), bytes.constData() + 1, size_t(bytes.size() - 1)) == 0;
+}
+
 /** Frames per second rounded to one decimal; 0 when the header leaves it undefined. */
 float roundedFrameRate(quint32 samplesTimesScale, quint32 movieDuration)
 {
@@ -106,6 +113,8 @@ void Mp4Parser::skipEmptyHeaders(quint64 end)
     while (position() < end) {
         const quint64 pieceStart = position();
         const qint64 got = readZeroFilled(piece.data(), piece.size());
+        if (got == piece.size() && pieceStart + quint64(got) <= end && isAllZero(piece))
+            continue;
         for (qint64 i = 0; i + BoxHeaderSize <= got; i += BoxHeaderSize) {
             if (uint32At(piece.constData(), int(i)) != 0 || pieceStart + quint64(i) >= end) {
                 file.seek(qint64(pieceStart) + i);
@@ -146,7 +155,7 @@ void Mp4Parser::readRootBox()
         if (type == QLatin1String("moov"))
             readMoovBox(boxPayload);
         else if (type == QLatin1String("gps0"))
-            readGps0Box(boxPayload);
+            readGps0Box(boxSize);
         else
             return false;
         return true;
@@ -154,9 +163,9 @@ void Mp4Parser::readRootBox()
 }
 
 // Required: the walk goes on from the payload of "gps0" instead of stepping over it.
-void Mp4Parser::readGps0Box(quint64 payload)
+void Mp4Parser::readGps0Box(quint64 size)
 {
-    const quint64 count = payload / Gps0BlockDistance;
+    const quint64 count = (size - BoxHeaderSize) / Gps0BlockDistance;
     setTelemetry(Gps0Scheme, position(),
                  unsigned(std::min<quint64>(count, std::numeric_limits<quint32>::max())));
 }

@@ -50,7 +50,7 @@ private:
     void readBoxVersionFlags(quint8 &version, quint8 *flags);
 
     void readRootBox();
-    void readGps0Box(quint64 payload);
+    void readGps0Box(quint64 size);
     void readMoovBox(quint64 payload);
     void readGpsBox();
     void readMvhdBox(quint64 payload, quint64 size);

@@ -29,6 +29,13 @@ constexpr qint64 SettleAfterCorrectionMs = 400;
 constexpr qint64 MaxSeekLagMs = 300;
 constexpr qint64 EndMarginMs = 500;
 
+/** What the player is given: nothing for a pipe or a device, whose opening may wait for ever. */
+QMediaContent mediaOf(const QUrl &url)
+{
+    const QFileInfo file(url.toLocalFile());
+    return file.exists() && !file.isFile() ? QMediaContent() : QMediaContent(url);
+}
+
 qint64 toMilliseconds(int seconds)
 {
     // The product is a 32-bit one; unsigned, because it must not overflow.
@@ -60,16 +67,17 @@ void PlayAreaManager::setPlayerNum(int num)
 
 void PlayAreaManager::setResourceData(const RowData *main, const RowData *related)
 {
-    mMain->player()->setMedia(main->url);
+    mMain->player()->setMedia(mediaOf(main->url));
     if (mSecond)
-        mSecond->player()->setMedia(related->url);
+        mSecond->player()->setMedia(mediaOf(related->url));
     mMainRow = main;
     mRelatedRow = related;
 }
 
 QMediaContent PlayAreaManager::media() const
 {
-    return mMain->player()->media();
+    const QMediaContent media = mMain->player()->media();
+    return media.isNull() && mMainRow ? QMediaContent(mMainRow->url) : media;
 }
 
 QMediaPlayer::State PlayAreaManager::state() const
@@ -237,7 +245,7 @@ void PlayAreaManager::relayKeysAndFullScreen(PlayerWidget *player)
 void PlayAreaManager::addToLayout(PlayerWidget *player)
 {
     if (mPlayersLayout->indexOf(player) < 0)
-        mPlayersLayout->addWidget(player);
+        mPlayersLayout->addWidget(player, 1); // both equally wide, whatever their pictures
 }
 
 void PlayAreaManager::createSecond()

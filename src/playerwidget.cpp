@@ -3,8 +3,11 @@
 #include "playerwidget.h"
 
 #include <QDebug>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMetaEnum>
+#include <QScreen>
+#include <QWindow>
 
 PlayerWidget::PlayerWidget(QWidget *parent) : QVideoWidget(parent)
 {
@@ -14,6 +17,9 @@ PlayerWidget::PlayerWidget(QWidget *parent) : QVideoWidget(parent)
     connect(&mPlayer, QOverload<QMediaPlayer::Error>::of(&QMediaPlayer::error), this,
             &PlayerWidget::onError);
     setUpdatesEnabled(true);
+    // In full screen the widget is a window. A window manager that had taken it over would let go
+    // of it only after it is back in its parent, and thereby take it out again.
+    setWindowFlag(Qt::BypassWindowManagerHint);
 }
 
 PlayerWidget::~PlayerWidget() = default;
@@ -88,5 +94,14 @@ void PlayerWidget::keyPressInFullScreen(QKeyEvent *event)
 void PlayerWidget::changeFullScreen(bool isFull)
 {
     emit fullScreen(isFull);
+    const QWindow *before = window()->windowHandle();
+    const QScreen *screen = before ? before->screen() : QGuiApplication::primaryScreen();
     setFullScreen(isFull);
+    if (isFull) {
+        // Without a window manager it sees to this itself; its own setGeometry() would end the
+        // state.
+        windowHandle()->setGeometry(screen->geometry());
+        raise();
+    }
+    window()->activateWindow();
 }

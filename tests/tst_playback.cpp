@@ -1,0 +1,309 @@
+// SPDX-FileCopyrightText: 2026 Quellfern
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "mediafile.h"
+#include "playareamanager.h"
+#include "rowdata.h"
+
+#include <QDropEvent>
+#include <QElapsedTimer>
+#include <QMimeData>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <cstdlib>
+#include <memory>
+
+Q_DECLARE_METATYPE(QKeyEvent *)
+
+namespace {
+
+constexpr qint64 InStepMs = 100;
+
+QMediaPlayer *mainOf(const PlayAreaManager &area)
+{
+    return area.mainPlayer()->player();
+}
+
+QMediaPlayer *secondOf(const PlayAreaManager &area)
+{
+    return area.secondPlayer()->player();
+}
+
+qint64 apartMs(const PlayAreaManager &area)
+{
+    return std::llabs(secondOf(area)->position() - mainOf(area)->position());
+}
+
+/** Waits until the main player has reported its position this many times. */
+bool waitForReports(const PlayAreaManager &area, int count)
+{
+    QSignalSpy reports(mainOf(area), &QMediaPlayer::positionChanged);
+    while (reports.size() < count) {
+        if (!reports.wait(5000))
+            return false;
+    }
+    return true;
+}
+
+} // namespace
+
+/** The play area with real recordings on a real display. */
+class tst_Playback : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+
+    void nudgesUntilThePictureMoves();
+    void resumingNudgesOnce();
+    void acceptsDroppedRecordings();
+    void keysOutsideFullScreen_data();
+    void keysOutsideFullScreen();
+    void keysInFullScreen();
+    void secondPlayerFollows();
+    void releasingTheSlider();
+    void staysInStep();
+    void correctsAPlayerThatIsOff();
+    void shorterSecondEndsByItself();
+
+private:
+    void playPair(const RowData &main, const RowData &related);
+
+    QTemporaryDir mFolder;
+    RowData mFront;
+    RowData mRear;
+    RowData mShort;
+    std::unique_ptr<PlayAreaManager> mArea;
+};
+
+void tst_Playback::initTestCase()
+{
+    qRegisterMetaType<QKeyEvent *>();
+    RowData *const rows[] = {&mFront, &mRear, &mShort};
+    const int lengths[] = {60, 60, 4};
+    for (int i = 0; i < 3; ++i) {
+        const QString fileName = mFolder.filePath(QStringLiteral("camera%1.mp4").arg(i));
+        QVERIFY(makeMediaFile(fileName, lengths[i]));
+        rows[i]->id = 7 + i;
+        rows[i]->url = QUrl::fromLocalFile(fileName);
+    }
+}
+
+void tst_Playback::init()
+{
+    mArea = std::make_unique<PlayAreaManager>();
+    mArea->resize(640, 200);
+    mArea->show();
+    QVERIFY(QTest::qWaitForWindowExposed(mArea.get()));
+}
+
+void tst_Playback::cleanup()
+{
+    mArea.reset();
+}
+
+void tst_Playback::playPair(const RowData &main, const RowData &related)
+{
+    mArea->setPlayerNum(2);
+    mArea->setResourceData(&main, &related);
+    mArea->play();
+    QTRY_COMPARE(secondOf(*mArea)->state(), QMediaPlayer::PlayingState);
+    QTRY_VERIFY(mainOf(*mArea)->position() > 0 && secondOf(*mArea)->position() > 0);
+}
+
+void tst_Playback::nudgesUntilThePictureMoves()
+{
+    mArea->setResourceData(&mFront, nullptr);
+    QSignalSpy seconds(mArea.get(), &PlayAreaManager::positionChanged);
+    const int height = mArea->height();
+    mArea->play();
+    mArea->mainPlayer()->player()->disconnect(mArea.get()); // its reports are given by hand
+    seconds.clear();
+
+    const struct
+    {
+        qint64 positionMs;
+        int height;
+        qint64 second;
+    } steps[] = {{0, height + 1, 0}, {0, height, 0}, {1999, height + 1, 1}, {2000, height + 1, 2}};
+    for (const auto &step : steps) {
+        mArea->onPositionChanged(step.positionMs);
+        QCOMPARE(mArea->height(), step.height);
+        QCOMPARE(seconds.takeFirst(), QVariantList({step.second, mFront.id}));
+    }
+}
+
+void tst_Playback::resumingNudgesOnce()
+{
+    mArea->setResourceData(&mFront, nullptr);
+    mArea->play();
+    QVERIFY(waitForReports(*mArea, 5));
+    mArea->pause();
+    QTRY_COMPARE(mArea->state(), QMediaPlayer::PausedState);
+    const int height = mArea->height();
+    mArea->play();
+    QCOMPARE(std::abs(mArea->height() - height), 1);
+    const int nudged = mArea->height();
+    QVERIFY(waitForReports(*mArea, 5));
+    QCOMPARE(mArea->height(), nudged);
+}
+
+void tst_Playback::acceptsDroppedRecordings()
+{
+    QSignalSpy dropped(mArea.get(), &PlayAreaManager::dropFile);
+    const QString video = QStringLiteral("file:///drive/a %23 clip.MP4");
+    QMimeData mime;
+    mime.setUrls({QUrl::fromLocalFile(QStringLiteral("/drive/notes.txt")),
+                  QUrl::fromLocalFile(mFolder.path()), QUrl(video)});
+
+    QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
+    enter.ignore();
+    QCoreApplication::sendEvent(mArea.get(), &enter);
+    QVERIFY(enter.isAccepted());
+    QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(mArea.get(), &drop);
+    QCOMPARE(dropped.size(), 1);
+    QCOMPARE(dropped.first().first().toString(), video);
+
+    mime.setUrls({QUrl::fromLocalFile(QStringLiteral("/drive/notes.txt"))});
+    QDragEnterEvent refused(QPoint(5, 5), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
+    refused.ignore();
+    QCoreApplication::sendEvent(mArea.get(), &refused);
+    QVERIFY(!refused.isAccepted());
+}
+
+void tst_Playback::keysOutsideFullScreen_data()
+{
+    QTest::addColumn<Qt::Key>("key");
+    QTest::addColumn<int>("modifiers");
+    QTest::newRow("keypad Enter") << Qt::Key_Enter << int(Qt::KeypadModifier);
+    QTest::newRow("Alt and keypad Enter") << Qt::Key_Enter << int(Qt::AltModifier);
+    QTest::newRow("Space") << Qt::Key_Space << int(Qt::NoModifier);
+    QTest::newRow("Escape") << Qt::Key_Escape << int(Qt::NoModifier);
+}
+
+void tst_Playback::keysOutsideFullScreen()
+{
+    QFETCH(const Qt::Key, key);
+    QFETCH(const int, modifiers);
+    QSignalSpy forwarded(mArea.get(), &PlayAreaManager::keyPressSignals);
+    QSignalSpy fullScreen(mArea.get(), &PlayAreaManager::fullScreenChanged);
+    QKeyEvent event(QEvent::KeyPress, key, Qt::KeyboardModifiers(modifiers));
+    QCoreApplication::sendEvent(mArea->mainPlayer(), &event);
+    QVERIFY(!event.isAccepted()); // left to the window
+    QVERIFY(forwarded.isEmpty() && fullScreen.isEmpty());
+}
+
+void tst_Playback::keysInFullScreen()
+{
+    PlayerWidget *player = mArea->mainPlayer();
+    QSignalSpy forwarded(mArea.get(), &PlayAreaManager::keyPressSignals);
+    QSignalSpy fullScreen(mArea.get(), &PlayAreaManager::fullScreenChanged);
+    QTest::mouseDClick(player, Qt::LeftButton);
+    QCOMPARE(fullScreen.takeFirst().first().toBool(), true);
+    QTRY_VERIFY(player->isFullScreen());
+
+    for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Left, Qt::Key_Right, Qt::Key_Up, Qt::Key_A})
+        QTest::keyClick(player, key);
+    QCOMPARE(forwarded.size(), 3);
+    QTest::keyClick(player, Qt::Key_Escape);
+    QCOMPARE(fullScreen.takeFirst().first().toBool(), false);
+    QTRY_VERIFY(!player->isFullScreen());
+    QCOMPARE(player->parentWidget(), mArea->findChild<QWidget *>(QStringLiteral("wgtbackWidget")));
+}
+
+void tst_Playback::secondPlayerFollows()
+{
+    playPair(mFront, mRear);
+    QVERIFY(secondOf(*mArea)->isMuted());
+    mArea->setMuted(false);
+    mArea->setVolume(40);
+    mArea->setPlaybackRate(2.0);
+    QVERIFY(secondOf(*mArea)->isMuted());
+    QCOMPARE(secondOf(*mArea)->volume(), 40);
+    QCOMPARE(secondOf(*mArea)->playbackRate(), 2.0);
+    mArea->pause();
+    QTRY_COMPARE(secondOf(*mArea)->state(), QMediaPlayer::PausedState);
+    mArea->seek(20);
+    QTRY_COMPARE(mainOf(*mArea)->position(), 20000);
+    QTRY_COMPARE(secondOf(*mArea)->position(), 20000);
+    mArea->stop();
+    QTRY_COMPARE(secondOf(*mArea)->state(), QMediaPlayer::StoppedState);
+
+    const QPointer<PlayerWidget> second = mArea->secondPlayer();
+    mArea->setPlayerNum(3);
+    QVERIFY(mArea->secondPlayer());
+    mArea->setPlayerNum(1);
+    QVERIFY(!second && !mArea->secondPlayer());
+    mArea->play();
+    QTRY_COMPARE(mArea->state(), QMediaPlayer::PlayingState);
+}
+
+void tst_Playback::releasingTheSlider()
+{
+    playPair(mFront, mRear);
+    mArea->onSliderStatusChanged(true, 0);
+    QTRY_COMPARE(mArea->state(), QMediaPlayer::PausedState);
+    mArea->seek(30);
+    QTRY_COMPARE(mainOf(*mArea)->position(), 30000);
+    mainOf(*mArea)->setPosition(30400);
+    QTRY_COMPARE(mainOf(*mArea)->position(), 30400);
+    QSignalSpy reports(mainOf(*mArea), &QMediaPlayer::positionChanged);
+    mArea->onSliderStatusChanged(false, 30);
+    QTRY_COMPARE(mArea->state(), QMediaPlayer::PlayingState);
+    QTRY_COMPARE(secondOf(*mArea)->state(), QMediaPlayer::PlayingState);
+    QVERIFY(reports.isEmpty() || reports.first().first().toLongLong() >= 30400); // no seek
+}
+
+void tst_Playback::staysInStep()
+{
+    playPair(mFront, mRear);
+    const double rates[] = {2.0, 0.5, 1.0};
+    for (int i = 0; i < 10; ++i) {
+        mArea->seek(5 + i * 17 % 40);
+        QVERIFY(waitForReports(*mArea, 3));
+        if (i < 6)
+            mArea->setPlaybackRate(rates[i % 3]);
+    }
+    QTRY_VERIFY_WITH_TIMEOUT(apartMs(*mArea) <= InStepMs, 2000);
+    for (int i = 0; i < 10; ++i) { // and it lasts
+        QVERIFY(waitForReports(*mArea, 1));
+        QVERIFY2(apartMs(*mArea) <= InStepMs, QByteArray::number(apartMs(*mArea)).constData());
+    }
+}
+
+void tst_Playback::correctsAPlayerThatIsOff()
+{
+    playPair(mFront, mRear);
+    QVERIFY(waitForReports(*mArea, 10));
+    for (const qint64 offMs : {700, -700}) {
+        secondOf(*mArea)->setPosition(mainOf(*mArea)->position() + 1000 + offMs);
+        mainOf(*mArea)->setPosition(mainOf(*mArea)->position() + 1000);
+        QTRY_VERIFY(apartMs(*mArea) > 400);
+        QTRY_VERIFY_WITH_TIMEOUT(apartMs(*mArea) <= InStepMs, 3000);
+    }
+}
+
+void tst_Playback::shorterSecondEndsByItself()
+{
+    playPair(mFront, mShort);
+    mArea->seek(3);
+    QTRY_COMPARE(secondOf(*mArea)->state(), QMediaPlayer::StoppedState);
+    QCOMPARE(mArea->state(), QMediaPlayer::PlayingState);
+    QTRY_VERIFY(mainOf(*mArea)->position() > 5000);
+    mArea->pause();
+    mArea->play();
+    QVERIFY(waitForReports(*mArea, 10));
+    QCOMPARE(secondOf(*mArea)->state(), QMediaPlayer::StoppedState); // not from its start again
+
+    mArea->seek(1);
+    QTRY_COMPARE(secondOf(*mArea)->state(), QMediaPlayer::PlayingState);
+    QTRY_VERIFY(apartMs(*mArea) <= InStepMs);
+}
+
+QTEST_MAIN(tst_Playback)
+#include "tst_playback.moc"

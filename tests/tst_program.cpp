@@ -1,0 +1,352 @@
+// SPDX-FileCopyrightText: 2026 Quellfern
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "commandline.h"
+#include "configuration.h"
+#include "mainwindows.h"
+#include "mediafile.h"
+#include "playareamanager.h"
+
+#include <QApplication>
+#include <QDropEvent>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QProcess>
+#include <QPushButton>
+#include <QScreen>
+#include <QSignalSpy>
+#include <QSlider>
+#include <QTableView>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+#include <QToolButton>
+
+#include <memory>
+
+namespace {
+
+constexpr int PairSeconds = 20;
+
+/** What the camera measured in this second: everything moves, so that no second looks like
+ *  another. */
+TelemetryBlock sampleOf(int second)
+{
+    TelemetryBlock block;
+    block.time = QByteArrayLiteral("202603140926") + QByteArray::number(10 + second);
+    block.latitudeRef = 'S';
+    block.latitude = "3352" + QByteArray::number(1000 + second); // 33 degrees, 52.1000 minutes on
+    block.longitude = "15112" + QByteArray::number(3000 + second);
+    block.setSpeed(40 + second);
+    return block;
+}
+
+QString dateTimeTextOf(int second)
+{
+    return QStringLiteral("2026/03/14 09:26:%1").arg(10 + second);
+}
+
+QString positionTextOf(int second)
+{
+    const double latitude = 33 + (52 + (1000 + second) / 10000.0) / 60;
+    const double longitude = 151 + (12 + (3000 + second) / 10000.0) / 60;
+    return QStringLiteral("S%1,E%2").arg(latitude, 0, 'f', 6).arg(longitude, 0, 'f', 6);
+}
+
+QString speedTextOf(int second)
+{
+    return QStringLiteral("0%1 km/h").arg(40 + second);
+}
+
+void xdotool(const QString &arguments)
+{
+    QCOMPARE(QProcess::execute(QStringLiteral("xdotool"), arguments.split(QLatin1Char(' '))), 0);
+}
+
+/** Whether the screen shows more than a plain ground where the widget is. */
+bool showsPicture(const QWidget *widget)
+{
+    const QRect place(widget->mapToGlobal(QPoint(0, 0)), widget->size());
+    const QPixmap pixmap = QGuiApplication::primaryScreen()->grabWindow(
+        0, place.x(), place.y(), place.width(), place.height());
+    const QImage image = pixmap.toImage().scaled(8, 8);
+    QSet<QRgb> colours;
+    for (int i = 0; i < 64; ++i)
+        colours.insert(image.pixel(i % 8, i / 8));
+    return colours.size() > 4;
+}
+
+} // namespace
+
+/** The whole program: real window, real recordings, real time. */
+class tst_Program : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+
+    void playsAPairNamedAsArguments();
+    void showsTheSamplesOfTheSecond();
+    void keysAndSeeking();
+    void rateVolumeAndMute();
+    void fullScreenAndBack();
+    void previousAndNext();
+    void playsAListToItsEnd();
+    void droppedRecordingPlays();
+    void openDialogPlaysTheFirst();
+    void stopResets();
+    void unplayableFilesDoNoHarm();
+
+private:
+    QString path(const char *name) const { return mFolder.filePath(QLatin1String(name)); }
+    void openArguments(const QStringList &names);
+    void playPair();
+    void pauseAt(int second);
+    int second() const { return child<QSlider>("hSlider_Seek")->value(); }
+    QString text(const char *label) const { return child<QLabel>(label)->text(); }
+    void click(const char *button) const
+    {
+        QTest::mouseClick(child<QWidget>(button), Qt::LeftButton);
+    }
+    template <typename Widget>
+    Widget *child(const char *name) const
+    {
+        return mWindow->findChild<Widget *>(QLatin1String(name));
+    }
+    PlayAreaManager *area() const { return child<PlayAreaManager>("wgt_PlayArea"); }
+    QMediaPlayer *player() const { return area()->mainPlayer()->player(); }
+
+    QTemporaryDir mFolder;
+    std::unique_ptr<MainWindows> mWindow;
+};
+
+void tst_Program::initTestCase()
+{
+    QCoreApplication::setOrganizationName(QStringLiteral("Quellfern"));
+    QCoreApplication::setApplicationName(QStringLiteral("Talvor Player V1.6 20200828"));
+    QList<TelemetryBlock> samples;
+    for (int i = 0; i < PairSeconds; ++i)
+        samples.append(sampleOf(i));
+    QVERIFY(makeMediaFile(path("MOVA0001.MP4"), PairSeconds, samples));
+    QVERIFY(makeMediaFile(path("MOVB0001.MP4"), PairSeconds, samples));
+    for (const char *name : {"one.mp4", "two #2 100%.mp4", "three.mp4"})
+        QVERIFY(makeMediaFile(path(name), 2));
+}
+
+void tst_Program::init()
+{
+    mWindow = std::make_unique<MainWindows>();
+    mWindow->show();
+    QVERIFY(QTest::qWaitForWindowActive(mWindow.get()));
+}
+
+void tst_Program::cleanup()
+{
+    mWindow.reset();
+}
+
+void tst_Program::openArguments(const QStringList &names)
+{
+    CommandLine commandLine;
+    QVERIFY(commandLine.parse(QStringList(QStringLiteral("talvor-player")) + names));
+    mWindow->openRecordings(commandLine.recordings());
+}
+
+void tst_Program::playPair()
+{
+    openArguments({path("MOVA0001.MP4"), path("MOVB0001.MP4")});
+    QTRY_COMPARE(area()->state(), QMediaPlayer::PlayingState);
+    QTRY_VERIFY(player()->position() > 0);
+}
+
+void tst_Program::pauseAt(int second)
+{
+    QTRY_VERIFY(child<QSlider>("hSlider_Seek")->maximum() == PairSeconds);
+    if (area()->state() == QMediaPlayer::PlayingState)
+        QTest::keyClick(mWindow.get(), Qt::Key_Space);
+    QTRY_COMPARE(area()->state(), QMediaPlayer::PausedState);
+    area()->seek(second);
+    QTRY_COMPARE(this->second(), second);
+}
+
+void tst_Program::playsAPairNamedAsArguments()
+{
+    playPair();
+    QTRY_COMPARE(area()->secondPlayer()->player()->state(), QMediaPlayer::PlayingState);
+    const QAbstractItemModel *model = child<QTableView>("tbl_PlayListView")->model();
+    QCOMPARE(model->rowCount(), 2);
+    for (int row = 0; row < 2; ++row) {
+        QTRY_COMPARE(model->index(row, 1).data().toString(), QStringLiteral("00:00:20"));
+        QCOMPARE(model->index(row, 4).data().toString(), QStringLiteral("320 x 180"));
+    }
+    QCOMPARE(text("lbl_FileName"), QStringLiteral("MOVA0001.MP4"));
+    QVERIFY(child<QPushButton>("btn_PlayOrPause")->isChecked());
+    QVERIFY(child<QPushButton>("btn_Stop")->isEnabled());
+}
+
+void tst_Program::showsTheSamplesOfTheSecond()
+{
+    playPair();
+    QTRY_VERIFY(text("lbl_GpsDateTime").startsWith(QLatin1String("2026/03/14 09:26:1"))); // live
+    for (const int second : {7, 3, 18}) {
+        pauseAt(second);
+        QTRY_COMPARE(text("lbl_GpsDateTime"), dateTimeTextOf(second));
+        QCOMPARE(text("lbl_LongitudeAndLatitude"), positionTextOf(second));
+        QCOMPARE(text("pBtn_SP"), speedTextOf(second));
+    }
+}
+
+void tst_Program::keysAndSeeking()
+{
+    playPair();
+    pauseAt(5);
+    QTest::keyClick(mWindow.get(), Qt::Key_Right);
+    QTRY_COMPARE(second(), 6);
+    QTest::keyClick(mWindow.get(), Qt::Key_Left);
+    QTRY_COMPARE(second(), 5);
+    QCOMPARE(text("lbl_PlayTime"), QStringLiteral("00:05/00:20"));
+
+    auto *slider = child<QSlider>("hSlider_Seek");
+    QTest::mousePress(slider, Qt::LeftButton, {}, QPoint(slider->width() / 2, 7));
+    QTRY_COMPARE(area()->state(), QMediaPlayer::PausedState);
+    QTest::mouseRelease(slider, Qt::LeftButton, {}, QPoint(slider->width() / 2, 7));
+    QTRY_COMPARE(area()->state(), QMediaPlayer::PlayingState); // always plays on
+    QTRY_VERIFY(qAbs(second() - PairSeconds / 2) <= 1);
+
+    QTest::keyClick(mWindow.get(), Qt::Key_Space);
+    QTRY_COMPARE(area()->state(), QMediaPlayer::PausedState);
+    QTest::keyClick(mWindow.get(), Qt::Key_Space);
+    QTRY_COMPARE(area()->state(), QMediaPlayer::PlayingState);
+}
+
+void tst_Program::rateVolumeAndMute()
+{
+    playPair();
+    click("pBtn_Down");
+    QTRY_COMPARE(player()->playbackRate(), 2.0);
+    click("pBtn_Up");
+    click("pBtn_Up");
+    QTRY_COMPARE(player()->playbackRate(), 0.5);
+
+    child<QSlider>("hSlider_Volume")->setValue(50);
+    QTRY_COMPARE(player()->volume(), 15); // -ln(1 - 0.50) / ln(100) = 0.1505
+    click("tBtn_Mute");
+    QTRY_VERIFY(player()->isMuted());
+    click("tBtn_Mute");
+    QTRY_VERIFY(!player()->isMuted());
+    QVERIFY(area()->secondPlayer()->player()->isMuted());
+}
+
+void tst_Program::fullScreenAndBack()
+{
+    playPair();
+    for (PlayerWidget *widget : {area()->mainPlayer(), area()->secondPlayer()}) {
+        const QRect place = widget->geometry();
+        QTest::mouseDClick(widget, Qt::LeftButton);
+        QTRY_COMPARE(widget->geometry(), QRect(0, 0, 1600, 1000));
+        QVERIFY(widget->isFullScreen());
+        xdotool(QStringLiteral("key space")); // it has the keyboard
+        QTRY_COMPARE(area()->state(), QMediaPlayer::PausedState);
+        xdotool(QStringLiteral("key Escape"));
+        QTRY_VERIFY(!widget->isFullScreen());
+        QTRY_COMPARE(widget->x(), place.x());
+        QTRY_COMPARE(widget->width(), place.width());
+        QTRY_VERIFY(showsPicture(widget));
+        xdotool(QStringLiteral("key space")); // and the main window has it back
+        QTRY_COMPARE(area()->state(), QMediaPlayer::PlayingState);
+    }
+}
+
+void tst_Program::previousAndNext()
+{
+    openArguments({path("one.mp4"), path("two #2 100%.mp4"), path("three.mp4")});
+    QTRY_COMPARE(area()->state(), QMediaPlayer::PlayingState);
+    click("btn_Next");
+    QCOMPARE(text("lbl_FileName"), QStringLiteral("two #2 100%.mp4"));
+    click("btn_Previous");
+    QCOMPARE(text("lbl_FileName"), QStringLiteral("one.mp4"));
+    click("btn_Previous"); // none before the first
+    QCOMPARE(text("lbl_FileName"), QStringLiteral("one.mp4"));
+}
+
+void tst_Program::playsAListToItsEnd()
+{
+    QList<int> played;
+    connect(area(), &PlayAreaManager::positionChanged, mWindow.get(), [&](qint64, int row) {
+        if (played.isEmpty() || played.last() != row)
+            played.append(row);
+    });
+    openArguments({path("one.mp4"), path("two #2 100%.mp4"), path("three.mp4")});
+    QTRY_COMPARE_WITH_TIMEOUT(played.size(), 3, 15000);
+    QTRY_COMPARE(area()->state(), QMediaPlayer::PlayingState);
+    QTRY_COMPARE_WITH_TIMEOUT(area()->state(), QMediaPlayer::StoppedState, 15000);
+    QCOMPARE(played, QList<int>({0, 1, 2})); // none skipped, none twice
+    QTRY_VERIFY(!child<QPushButton>("btn_Stop")->isEnabled());
+    QVERIFY(!child<QPushButton>("btn_PlayOrPause")->isChecked());
+    QCOMPARE(second(), 0);
+    QCOMPARE(text("lbl_FileName"), QString());
+    QVERIFY(!QSignalSpy(player(), &QMediaPlayer::stateChanged).wait(1500)); // and it stays stopped
+}
+
+void tst_Program::droppedRecordingPlays()
+{
+    QMimeData mime;
+    mime.setUrls({QUrl::fromLocalFile(path("two #2 100%.mp4"))});
+    QDragEnterEvent enter(QPoint(9, 9), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(area(), &enter);
+    QDropEvent drop(QPointF(9, 9), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(area(), &drop);
+    QCOMPARE(text("lbl_FileName"), QStringLiteral("two #2 100%.mp4"));
+    QTRY_VERIFY(player()->position() > 500);
+}
+
+void tst_Program::openDialogPlaysTheFirst()
+{
+    Configuration::GetInstance()->setVideoFilePath(QDir::homePath());
+    QTimer::singleShot(0, mWindow.get(), [this] {
+        auto *dialog = mWindow->findChild<QFileDialog *>();
+        dialog->setDirectory(mFolder.path());
+        dialog->findChild<QLineEdit *>()->setText(QStringLiteral("\"one.mp4\" \"three.mp4\""));
+        QMetaObject::invokeMethod(dialog, "accept");
+    });
+    click("btn_OpenFile");
+    QCOMPARE(child<QTableView>("tbl_PlayListView")->model()->rowCount(), 2);
+    QCOMPARE(text("lbl_FileName"), QStringLiteral("one.mp4"));
+    QCOMPARE(Configuration::GetInstance()->videoFilePath(), mFolder.path());
+    QTRY_COMPARE(area()->state(), QMediaPlayer::PlayingState);
+}
+
+void tst_Program::stopResets()
+{
+    playPair();
+    QTRY_VERIFY(second() >= 2);
+    click("btn_Stop");
+    QTRY_COMPARE(area()->state(), QMediaPlayer::StoppedState);
+    QCOMPARE(text("lbl_LongitudeAndLatitude"), QStringLiteral("00.000000,000.000000"));
+    QCOMPARE(text("pBtn_SP"), QStringLiteral("000 km/h"));
+    QCOMPARE(text("lbl_FileName"), QString());
+    QTRY_COMPARE(second(), 0);
+    click("btn_PlayOrPause"); // the row is still selected
+    QTRY_COMPARE(area()->state(), QMediaPlayer::PlayingState);
+    QCOMPARE(text("lbl_FileName"), QStringLiteral("MOVA0001.MP4"));
+}
+
+void tst_Program::unplayableFilesDoNoHarm()
+{
+    QFile text(path("letter.mp4"));
+    QVERIFY(text.open(QIODevice::WriteOnly) && text.write("Dear driver,") > 0);
+    text.close();
+    openArguments({path("letter.mp4"), path("missing.mp4"), path("one.mp4")});
+    QCOMPARE(child<QTableView>("tbl_PlayListView")->model()->rowCount(), 2);
+    QTRY_VERIFY(player()->mediaStatus() == QMediaPlayer::InvalidMedia);
+    click("btn_Next");
+    QTRY_COMPARE(area()->state(), QMediaPlayer::PlayingState);
+    QTRY_VERIFY(player()->position() > 0);
+}
+
+QTEST_MAIN(tst_Program)
+#include "tst_program.moc"
