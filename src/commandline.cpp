@@ -29,7 +29,7 @@ QUrl urlOf(const QString &argument)
     // A URL typed by hand may carry '#' or '%' as they are.
     const QString verbatimPath = argument.mid(FileScheme.size());
     const bool isVerbatim =
-        !QFileInfo::exists(url.toLocalFile()) && QFileInfo::exists(verbatimPath);
+        !QFileInfo(url.toLocalFile()).isFile() && QFileInfo::exists(verbatimPath);
     return isVerbatim ? QUrl::fromLocalFile(verbatimPath) : url;
 }
 
