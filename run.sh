@@ -71,5 +71,5 @@ if has_display; then
     exec "$player" "$@"
 fi
 echo "There is no display: playing on a virtual one for $play_seconds seconds ..."
-"$root/tools/with-display.sh" "$0" --on-virtual-display "$@"
+"$root/tools/with-display.sh" "$root/run.sh" --on-virtual-display "$@"
 echo "Screenshot: $screenshot"

@@ -61,7 +61,7 @@ CommandLine::CommandLine()
 
 bool CommandLine::asksForInformation(int argc, const char *const *argv)
 {
-    const std::array<const char *, 4> options{"-h", "--help", "-v", "--version"};
+    const std::array<const char *, 5> options{"-h", "--help", "--help-all", "-v", "--version"};
     for (int i = 1; i < argc && std::strcmp(argv[i], "--") != 0; ++i) {
         if (std::any_of(options.begin(), options.end(),
                         [&](const char *option) { return std::strcmp(argv[i], option) == 0; }))

@@ -9,6 +9,7 @@
 #include <QAudio>
 #include <QDateTime>
 #include <QProxyStyle>
+#include <QWheelEvent>
 
 namespace {
 
@@ -93,8 +94,9 @@ void ControlPanel::setCurrentPosition(int seconds)
     const int shown = mDuration == 0 ? qMax(seconds, 0) : seconds;
     mUi->lbl_PlayTime->setText(clockText(shown, withHours) + QLatin1Char('/') +
                                clockText(mDuration, withHours));
-    // Last, because the listener may start the next recording, whose position must stand.
-    if (seconds == mDuration && mDuration != 0)
+    // Last, because the listener may start the next recording, whose position must stand. Not while
+    // the slider is held: the end comes again once it has been let go.
+    if (seconds == mDuration && mDuration != 0 && !mUi->hSlider_Seek->isSliderDown())
         emit next();
 }
 
@@ -152,6 +154,9 @@ void ControlPanel::setState(QMediaPlayer::State state)
 
 void ControlPanel::setVolume(int volume)
 {
+    // The player's rounded answer must not pull the handle from under the mouse.
+    if (mUi->hSlider_Volume->isSliderDown())
+        return;
     mUi->hSlider_Volume->setValue(
         convertedVolume(volume, QAudio::LinearVolumeScale, QAudio::LogarithmicVolumeScale));
 }
@@ -215,6 +220,15 @@ void ControlPanel::onSliderStatusProcess()
                              mUi->hSlider_Seek->sliderPosition());
 }
 
+bool ControlPanel::eventFilter(QObject *object, QEvent *event)
+{
+    if (object != mUi->hSlider_Seek || event->type() != QEvent::Wheel)
+        return QWidget::eventFilter(object, event);
+    // By itself the slider would move its handle without a seek.
+    setSliderMove(static_cast<QWheelEvent *>(event)->angleDelta().y() > 0 ? 1 : -1);
+    return true;
+}
+
 void ControlPanel::fillRates()
 {
     mUi->fcbox_Rate->addItem(QStringLiteral("0.5x"), 0.5);
@@ -239,6 +253,7 @@ void ControlPanel::setupSliders()
     auto *style = new JumpToClickStyle;
     style->setParent(this);
     mUi->hSlider_Seek->setStyle(style);
+    mUi->hSlider_Seek->installEventFilter(this);
     mUi->hSlider_Volume->setStyle(style);
 }
 

@@ -78,6 +78,9 @@ public slots:
     void onUpdateLanguage();
     void onSliderStatusProcess();
 
+protected:
+    bool eventFilter(QObject *object, QEvent *event) override;
+
 private:
     void fillRates();
     void setupSliders();

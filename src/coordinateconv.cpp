@@ -50,6 +50,8 @@ void require(bool holds, const char *condition, int line)
 
 bool CoordinateConv::IsNearRightAngle(double angle)
 {
+    if (!std::isfinite(angle))
+        return false;
     const int whole = int(normalized(angle));
     return unsigned(whole - 81 - (whole / 180) * 180) < 19;
 }

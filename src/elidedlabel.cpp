@@ -4,7 +4,10 @@
 
 #include <QFontMetrics>
 
-ElidedLabel::ElidedLabel(QWidget *parent) : QLabel(parent) {}
+ElidedLabel::ElidedLabel(QWidget *parent) : QLabel(parent)
+{
+    setTextFormat(Qt::PlainText); // file names may look like markup
+}
 
 void ElidedLabel::setFullText(const QString &text, const QFont &font)
 {

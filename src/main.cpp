@@ -15,12 +15,13 @@
 
 namespace {
 
-/** Under Wayland the video can only be shown through X11; the user's own choice stands. */
+/** Under Wayland the video can only be shown through X11, where there is one; the user's own choice
+ *  stands. */
 void preferX11()
 {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM") &&
         qEnvironmentVariableIsSet("WAYLAND_DISPLAY"))
-        qputenv("QT_QPA_PLATFORM", "xcb");
+        qputenv("QT_QPA_PLATFORM", "xcb;wayland");
 }
 
 int printInformation(int argc, char *argv[])

@@ -102,6 +102,7 @@ MainWindows::~MainWindows()
     // Waiting for the workers processes events, which must not reach this window any more.
     mUi->wgt_PlayArea->disconnect(this);
     mUi->wgt_PlayArea->stop();
+    mUi->wgt_PlayArea->forgetRows();
     mPlaylistModel->disconnect(this);
     delete mPlaylistModel;
     mPlaylistModel = nullptr;
@@ -150,7 +151,7 @@ void MainWindows::onUpdateLanguage()
     // The form has cleared it; it stays clear until the next recording starts.
     setTitleFileName(QString());
     setWindowTitle(QCoreApplication::applicationName());
-    showMaximizedState();
+    showMaximizedState(); // the form knows one of the two tooltips only
 }
 
 void MainWindows::openFile()
@@ -283,11 +284,16 @@ void MainWindows::onFullScreenChanged(bool) {}
 void MainWindows::keyPressEvent(QKeyEvent *event)
 {
     qDebug() << "MainWindows::keyPressEvent" << event->key();
-    // Escape is swallowed: it must never close the window.
-    if (controlPlayback(event->key()) || event->key() == Qt::Key_Escape)
+    if (event->key() == Qt::Key_Escape) {
+        // Swallowed, as it must never close the window; a picture that fills the screen may have
+        // lost the keyboard to this window.
+        mUi->wgt_PlayArea->leaveFullScreen();
         event->accept();
-    else
+    } else if (controlPlayback(event->key())) {
+        event->accept();
+    } else {
         QDialog::keyPressEvent(event);
+    }
 }
 
 void MainWindows::closeEvent(QCloseEvent *event)
@@ -405,7 +411,7 @@ void MainWindows::connectPlaylistAndSettings()
 void MainWindows::restoreGeometryFromSettings()
 {
     QRect rect = Configuration::GetInstance()->getMainwindowsRect();
-    if (!isOnAnyScreen(rect.center()))
+    if (!rect.isValid() || !isOnAnyScreen(rect.center()))
         rect = Configuration::defaultMainwindowsRect();
     if (Configuration::GetInstance()->getMainwindowsIsMaximize())
         on_pBtn_Maximize_clicked();

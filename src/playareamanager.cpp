@@ -29,6 +29,11 @@ constexpr qint64 SettleAfterCorrectionMs = 400;
 constexpr qint64 MaxSeekLagMs = 300;
 constexpr qint64 EndMarginMs = 500;
 
+// A seek that comes while a player changes its state may be lost.
+constexpr int SeekCheckDelayMs = 300;
+constexpr qint64 LostSeekBeforeMs = -300;
+constexpr qint64 LostSeekAfterMs = 1500;
+
 /** What the player is given: nothing for a pipe or a device, whose opening may wait for ever. */
 QMediaContent mediaOf(const QUrl &url)
 {
@@ -50,6 +55,9 @@ PlayAreaManager::PlayAreaManager(QWidget *parent) : QWidget(parent), mMain(new P
     createLayouts();
     addToLayout(mMain);
     relayMainPlayer();
+    mSeekCheck.setSingleShot(true);
+    mSeekCheck.setInterval(SeekCheckDelayMs);
+    connect(&mSeekCheck, &QTimer::timeout, this, &PlayAreaManager::repeatLostSeeks);
 }
 
 PlayAreaManager::~PlayAreaManager() = default;
@@ -72,6 +80,21 @@ void PlayAreaManager::setResourceData(const RowData *main, const RowData *relate
         mSecond->player()->setMedia(mediaOf(related->url));
     mMainRow = main;
     mRelatedRow = related;
+    mSecondPositionMs = 0;
+    mSecondEndMs = 0;
+}
+
+void PlayAreaManager::forgetRows()
+{
+    mMainRow = nullptr;
+    mRelatedRow = nullptr;
+}
+
+void PlayAreaManager::leaveFullScreen()
+{
+    mMain->leaveFullScreen();
+    if (mSecond)
+        mSecond->leaveFullScreen();
 }
 
 QMediaContent PlayAreaManager::media() const
@@ -121,6 +144,7 @@ void PlayAreaManager::pause()
 
 void PlayAreaManager::stop()
 {
+    mSeekCheck.stop();
     mMain->player()->stop();
     if (mSecond)
         mSecond->player()->stop();
@@ -129,7 +153,7 @@ void PlayAreaManager::stop()
 void PlayAreaManager::seek(int seconds)
 {
     const qint64 positionMs = toMilliseconds(seconds);
-    mMain->player()->setPosition(positionMs);
+    seekMain(positionMs);
     if (mSecond)
         seekSecond(positionMs);
     holdSyncFor(SettleAfterCommandMs);
@@ -171,7 +195,7 @@ void PlayAreaManager::onSliderStatusChanged(bool isSliderDown, int seconds)
     }
     QMediaPlayer *main = mMain->player();
     if (main->position() / 1000 != seconds)
-        main->setPosition(toMilliseconds(seconds));
+        seekMain(toMilliseconds(seconds));
     main->play();
     if (mSecond) {
         if (mSecond->player()->position() / 1000 != seconds)
@@ -203,6 +227,8 @@ void PlayAreaManager::dragEnterEvent(QDragEnterEvent *event)
 void PlayAreaManager::dropEvent(QDropEvent *event)
 {
     const QStringList recordings = droppedRecordings(*event->mimeData());
+    if (!recordings.isEmpty())
+        event->acceptProposedAction();
     for (const QString &recording : recordings)
         emit dropFile(recording);
 }
@@ -231,9 +257,41 @@ void PlayAreaManager::relayMainPlayer()
     connect(player, &QMediaPlayer::volumeChanged, this, &PlayAreaManager::volumeChanged);
     connect(player, &QMediaPlayer::mutedChanged, this, &PlayAreaManager::mutedChanged);
     connect(player, &QMediaPlayer::durationChanged, this, &PlayAreaManager::durationChanged);
-    connect(player, &QMediaPlayer::positionChanged, this, &PlayAreaManager::onPositionChanged);
-    connect(player, &QMediaPlayer::positionChanged, this, &PlayAreaManager::keepInStep);
+    connect(player, &QMediaPlayer::positionChanged, this, &PlayAreaManager::relayPosition);
+    connect(player, &QMediaPlayer::mediaStatusChanged, this,
+            &PlayAreaManager::onMainMediaStatusChanged);
     relayKeysAndFullScreen(mMain);
+}
+
+void PlayAreaManager::relayPosition(qint64 positionMs)
+{
+    // The backend delivers a report or two after a stop: the player itself is at 0 by then.
+    const bool isLate = state() == QMediaPlayer::StoppedState && positionMs > 0 &&
+                        mMain->player()->position() != positionMs;
+    if (isLate)
+        return;
+    onPositionChanged(positionMs);
+    keepInStep();
+}
+
+void PlayAreaManager::onMainMediaStatusChanged(QMediaPlayer::MediaStatus status)
+{
+    // The second recording never plays on its own: nothing could stop it.
+    if (status == QMediaPlayer::InvalidMedia && mSecond)
+        mSecond->player()->stop();
+}
+
+void PlayAreaManager::noteSecondPosition(qint64 positionMs)
+{
+    // The last report is the duration, wherever the recording ended.
+    if (positionMs < mSecond->player()->duration())
+        mSecondPositionMs = positionMs;
+}
+
+void PlayAreaManager::onSecondMediaStatusChanged(QMediaPlayer::MediaStatus status)
+{
+    if (status == QMediaPlayer::EndOfMedia)
+        mSecondEndMs = mSecondPositionMs;
 }
 
 void PlayAreaManager::relayKeysAndFullScreen(PlayerWidget *player)
@@ -253,8 +311,13 @@ void PlayAreaManager::createSecond()
     if (mSecond)
         return;
     mSecond = new PlayerWidget(this);
-    mSecond->player()->setMuted(true);
-    mSecond->player()->setVolume(volume());
+    QMediaPlayer *player = mSecond->player();
+    player->setMuted(true);
+    player->setVolume(volume());
+    player->setNotifyInterval(NotifyIntervalMs);
+    connect(player, &QMediaPlayer::positionChanged, this, &PlayAreaManager::noteSecondPosition);
+    connect(player, &QMediaPlayer::mediaStatusChanged, this,
+            &PlayAreaManager::onSecondMediaStatusChanged);
     relayKeysAndFullScreen(mSecond);
 }
 
@@ -266,7 +329,14 @@ void PlayAreaManager::destroySecond()
     if (mSecond->isFullScreen())
         emit fullScreenChanged(false);
     mPlayersLayout->removeWidget(mSecond);
-    delete mSecond;
+    // Not at once: this may run inside one of its own events, or in the end-of-media handling of
+    // the other player.
+    mSecond->player()->disconnect(this);
+    mSecond->disconnect(this);
+    mSecond->player()->stop();
+    mSecond->hide();
+    mSecond->setParent(nullptr);
+    mSecond->deleteLater();
     mSecond = nullptr;
 }
 
@@ -292,16 +362,23 @@ QStringList PlayAreaManager::droppedRecordings(const QMimeData &data)
     return recordings;
 }
 
+/** Where the second recording ends; 0 or less while unknown. */
+qint64 PlayAreaManager::secondEndMs() const
+{
+    const qint64 duration = mSecond->player()->duration();
+    return mSecondEndMs > 0 ? qMin(duration, mSecondEndMs) : duration;
+}
+
 /** Whether the second recording is long enough to have a picture there; true while unknown. */
 bool PlayAreaManager::secondHasSomethingAt(qint64 positionMs) const
 {
-    const qint64 duration = mSecond->player()->duration();
-    return duration <= 0 || positionMs < duration;
+    const qint64 end = secondEndMs();
+    return end <= 0 || positionMs < end;
 }
 
 void PlayAreaManager::playSecond()
 {
-    if (!mSecond)
+    if (!mSecond || mMain->player()->mediaStatus() == QMediaPlayer::InvalidMedia)
         return;
     QMediaPlayer *second = mSecond->player();
     // One that has ended would start again from its beginning.
@@ -309,6 +386,26 @@ void PlayAreaManager::playSecond()
         second->play();
     second->setMuted(true);
     second->setPlaybackRate(mMain->player()->playbackRate());
+}
+
+void PlayAreaManager::seekMain(qint64 positionMs)
+{
+    mMain->player()->setPosition(positionMs);
+    mSoughtMs = positionMs;
+    mSeekCheck.start();
+}
+
+void PlayAreaManager::repeatLostSeeks()
+{
+    for (PlayerWidget *widget : {mMain, mSecond}) {
+        if (!widget || widget->player()->state() == QMediaPlayer::StoppedState)
+            continue;
+        QMediaPlayer *player = widget->player();
+        const qint64 offMs = player->position() - mSoughtMs;
+        const bool isLost = offMs < LostSeekBeforeMs || offMs > LostSeekAfterMs;
+        if (isLost && mSoughtMs + EndMarginMs < player->duration())
+            player->setPosition(mSoughtMs);
+    }
 }
 
 void PlayAreaManager::seekSecond(qint64 positionMs)
@@ -329,6 +426,7 @@ void PlayAreaManager::holdSyncFor(qint64 settleMs)
     mSinceCommand.start();
     mSettleMs = settleMs;
     mReportsOff = 0;
+    mCorrectionPending = false;
 }
 
 /** Measures on every report of the main player how far the second one is ahead, and corrects it
@@ -340,7 +438,7 @@ void PlayAreaManager::keepInStep()
         return;
     const QMediaPlayer *second = mSecond->player();
     const qint64 mainMs = mMain->player()->position();
-    if (second->duration() <= 0 || mainMs + EndMarginMs >= second->duration())
+    if (secondEndMs() <= 0 || mainMs + EndMarginMs >= secondEndMs())
         return;
     if (second->state() != QMediaPlayer::PlayingState) {
         rejoin(mainMs);
@@ -366,8 +464,8 @@ void PlayAreaManager::rejoin(qint64 mainMs)
 void PlayAreaManager::correctSecond(qint64 mainMs)
 {
     mSecond->player()->setPosition(mainMs + mSeekLagMs);
-    mCorrectionPending = true;
     holdSyncFor(SettleAfterCorrectionMs);
+    mCorrectionPending = true;
 }
 
 /** A seek takes its time while the main recording plays on: the next one aims ahead by that. */

@@ -7,6 +7,7 @@
 #include <QElapsedTimer>
 #include <QMediaContent>
 #include <QMediaPlayer>
+#include <QTimer>
 #include <QWidget>
 
 class QHBoxLayout;
@@ -33,6 +34,11 @@ public:
     void setPlayerNum(int num);
     /** Loads the recordings without starting them. @p related must not be null with two players. */
     void setResourceData(const RowData *main, const RowData *related);
+
+    /** Lets go of the rows, before their owner destroys them. */
+    void forgetRows();
+    /** Ends a player's full screen, if there is one. */
+    void leaveFullScreen();
 
     /** The row of the main recording, null until one has been set. */
     const RowData *mainRow() const { return mMainRow; }
@@ -84,15 +90,22 @@ private:
 
     void createLayouts();
     void relayMainPlayer();
+    void relayPosition(qint64 positionMs);
+    void onMainMediaStatusChanged(QMediaPlayer::MediaStatus status);
+    void noteSecondPosition(qint64 positionMs);
+    void onSecondMediaStatusChanged(QMediaPlayer::MediaStatus status);
     void relayKeysAndFullScreen(PlayerWidget *player);
     void addToLayout(PlayerWidget *player);
     void createSecond();
     void destroySecond();
     void nudgeGeometry();
 
+    qint64 secondEndMs() const;
     bool secondHasSomethingAt(qint64 positionMs) const;
     void playSecond();
+    void seekMain(qint64 positionMs);
     void seekSecond(qint64 positionMs);
+    void repeatLostSeeks();
     void holdSyncFor(qint64 settleMs);
     void keepInStep();
     void rejoin(qint64 mainMs);
@@ -113,4 +126,12 @@ private:
     int mReportsOff = 0;
     qint64 mSeekLagMs = 0;
     bool mCorrectionPending = false;
+
+    // The last seek, until it is certain that both players have made it.
+    QTimer mSeekCheck;
+    qint64 mSoughtMs = 0;
+
+    // Where the second recording really ended: one cut short ends before its header says.
+    qint64 mSecondPositionMs = 0;
+    qint64 mSecondEndMs = 0; // 0 until it has ended
 };

@@ -16,6 +16,8 @@ PlayerWidget::PlayerWidget(QWidget *parent) : QVideoWidget(parent)
     connect(&mPlayer, &QMediaPlayer::stateChanged, this, &PlayerWidget::onStateChanged);
     connect(&mPlayer, QOverload<QMediaPlayer::Error>::of(&QMediaPlayer::error), this,
             &PlayerWidget::onError);
+    connect(qGuiApp, &QGuiApplication::applicationStateChanged, this,
+            &PlayerWidget::onApplicationStateChanged);
     setUpdatesEnabled(true);
     // In full screen the widget is a window. A window manager that had taken it over would let go
     // of it only after it is back in its parent, and thereby take it out again.
@@ -23,6 +25,12 @@ PlayerWidget::PlayerWidget(QWidget *parent) : QVideoWidget(parent)
 }
 
 PlayerWidget::~PlayerWidget() = default;
+
+void PlayerWidget::leaveFullScreen()
+{
+    if (isFullScreen())
+        changeFullScreen(false);
+}
 
 void PlayerWidget::onStateChanged(QMediaPlayer::State newState)
 {
@@ -41,6 +49,14 @@ void PlayerWidget::onError(QMediaPlayer::Error error)
     qDebug() << "onError" << name.constData() << mPlayer.errorString();
     if (error != QMediaPlayer::NoError)
         setUpdatesEnabled(true);
+}
+
+void PlayerWidget::onApplicationStateChanged(Qt::ApplicationState applicationState)
+{
+    if (!isFullScreen() || applicationState == Qt::ApplicationActive)
+        return;
+    emit fullScreen(false);
+    setFullScreen(false);
 }
 
 void PlayerWidget::keyPressEvent(QKeyEvent *event)

@@ -26,6 +26,9 @@ public:
     QMediaPlayer *player() { return &mPlayer; }
     const QMediaPlayer *player() const { return &mPlayer; }
 
+    /** Leaves full screen, if it is in it, and gives the keyboard back to the main window. */
+    void leaveFullScreen();
+
 signals:
     /** A navigation key pressed in full screen; valid during the emission only. */
     void keyPressSignals(QKeyEvent *event);
@@ -35,6 +38,8 @@ signals:
 public slots:
     void onStateChanged(QMediaPlayer::State newState);
     void onError(QMediaPlayer::Error error);
+    /** Full screen ends when another program gets the keyboard: it would cover its window. */
+    void onApplicationStateChanged(Qt::ApplicationState applicationState);
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;

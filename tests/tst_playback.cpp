@@ -7,6 +7,7 @@
 #include <QDropEvent>
 #include <QElapsedTimer>
 #include <QMimeData>
+#include <QProcess>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -69,6 +70,8 @@ private slots:
     void staysInStep();
     void correctsAPlayerThatIsOff();
     void shorterSecondEndsByItself();
+    void cutSecondEndsOnce();
+    void unplayableMainStopsBoth();
 
 private:
     void playPair(const RowData &main, const RowData &related);
@@ -238,7 +241,9 @@ void tst_Playback::secondPlayerFollows()
     mArea->setPlayerNum(3);
     QVERIFY(mArea->secondPlayer());
     mArea->setPlayerNum(1);
-    QVERIFY(!second && !mArea->secondPlayer());
+    QVERIFY(!mArea->secondPlayer());
+    QCOMPARE(mArea->findChildren<PlayerWidget *>().size(), 1);
+    QTRY_VERIFY(!second);
     mArea->play();
     QTRY_COMPARE(mArea->state(), QMediaPlayer::PlayingState);
 }
@@ -303,6 +308,53 @@ void tst_Playback::shorterSecondEndsByItself()
     mArea->seek(1);
     QTRY_COMPARE(secondOf(*mArea)->state(), QMediaPlayer::PlayingState);
     QTRY_VERIFY(apartMs(*mArea) <= InStepMs);
+}
+
+/** A recording of 20 s by its header, cut off in the middle, as by a loss of power. */
+void tst_Playback::cutSecondEndsOnce()
+{
+    const QString whole = mFolder.filePath(QStringLiteral("whole.mp4"));
+    const QString front = mFolder.filePath(QStringLiteral("headfirst.mp4"));
+    QVERIFY(makeMediaFile(whole, 20));
+    const QStringList arguments = {QStringLiteral("-v"),
+                                   QStringLiteral("error"),
+                                   QStringLiteral("-y"),
+                                   QStringLiteral("-i"),
+                                   whole,
+                                   QStringLiteral("-c"),
+                                   QStringLiteral("copy"),
+                                   QStringLiteral("-movflags"),
+                                   QStringLiteral("faststart"),
+                                   front};
+    QCOMPARE(QProcess::execute(QStringLiteral("ffmpeg"), arguments), 0);
+    QVERIFY(QFile::resize(front, QFileInfo(front).size() / 4));
+    RowData cut;
+    cut.url = QUrl::fromLocalFile(front);
+
+    playPair(mFront, cut);
+    QTRY_COMPARE_WITH_TIMEOUT(secondOf(*mArea)->state(), QMediaPlayer::StoppedState, 12000);
+    QSignalSpy changes(secondOf(*mArea), &QMediaPlayer::stateChanged);
+    QVERIFY(waitForReports(*mArea, 20));
+    mArea->pause();
+    mArea->play();
+    QVERIFY(waitForReports(*mArea, 10));
+    QCOMPARE(changes.size(), 0);
+}
+
+void tst_Playback::unplayableMainStopsBoth()
+{
+    QFile letter(mFolder.filePath(QStringLiteral("letter.mp4")));
+    QVERIFY(letter.open(QIODevice::WriteOnly) && letter.write("Dear driver,") > 0);
+    letter.close();
+    RowData unplayable;
+    unplayable.url = QUrl::fromLocalFile(letter.fileName());
+    mArea->setPlayerNum(2);
+    mArea->setResourceData(&unplayable, &mRear);
+    mArea->play();
+    QTRY_COMPARE(mainOf(*mArea)->mediaStatus(), QMediaPlayer::InvalidMedia);
+    QTRY_COMPARE(secondOf(*mArea)->state(), QMediaPlayer::StoppedState);
+    mArea->play();
+    QTRY_COMPARE(secondOf(*mArea)->state(), QMediaPlayer::StoppedState);
 }
 
 QTEST_MAIN(tst_Playback)

@@ -8,7 +8,7 @@
 set -eu
 
 [ $# -gt 0 ] || { echo "usage: with-display.sh COMMAND [ARGUMENT...]" >&2; exit 2; }
-for tool in Xvfb openbox xdotool; do
+for tool in Xvfb openbox xprop; do
     command -v $tool >/dev/null || { echo "with-display: $tool is not installed" >&2; exit 1; }
 done
 
