@@ -13,7 +13,7 @@ build=$root/build/release
 player=$build/src/talvor-player
 demo=$root/build/demo-recordings
 screenshot=$root/build/screenshot.png
-play_seconds=12 # on a virtual display, before the screenshot
+play_seconds=12.6 # on a virtual display, before the screenshot
 
 fail() {
     echo "run.sh: $*" >&2
@@ -70,6 +70,6 @@ fi
 if has_display; then
     exec "$player" "$@"
 fi
-echo "There is no display: playing on a virtual one for $play_seconds seconds ..."
+echo "There is no display: playing on a virtual one for a few seconds ..."
 "$root/tools/with-display.sh" "$root/run.sh" --on-virtual-display "$@"
 echo "Screenshot: $screenshot"
