@@ -17,12 +17,6 @@ constexpr int BoxHeaderSize = 8;
 constexpr int LargeBoxHeaderSize = 16;
 constexpr int Gps0BlockDistance = 311;
 
-constexpr int AmbarellaScheme = 1;
-constexpr int GpsBoxScheme = 2;
-constexpr int FreeGpsScheme = 3;
-constexpr int Gps0Scheme = 4;
-constexpr int GpsTrackScheme = 6;
-
 constexpr int DecodeH264 = 1;
 constexpr int DecodeH265 = 2;
 
@@ -166,7 +160,7 @@ void Mp4Parser::readRootBox()
 void Mp4Parser::readGps0Box(quint64 size)
 {
     const quint64 count = (size - BoxHeaderSize) / Gps0BlockDistance;
-    setTelemetry(Gps0Scheme, position(),
+    setTelemetry(Gps0Box, position(),
                  unsigned(std::min<quint64>(count, std::numeric_limits<quint32>::max())));
 }
 
@@ -190,7 +184,7 @@ void Mp4Parser::readGpsBox()
 {
     skip(4); // version and flags
     const quint32 count = readUint32_fromBig();
-    setTelemetry(GpsBoxScheme, position(), count);
+    setTelemetry(GpsBox, position(), count);
 }
 
 // Required for "mvhd", "tkhd" and "hdlr": they are read field by field, and the walk goes on behind
@@ -265,10 +259,10 @@ void Mp4Parser::readMdiaBox(quint64 payload, TrakType &kind)
         return true;
     });
     if (handlerName.contains(QLatin1String("Ambarella EXT"), Qt::CaseInsensitive))
-        setTelemetry(AmbarellaScheme, chunkTable, chunkCount);
+        setTelemetry(AmbarellaTrack, chunkTable, chunkCount);
     else if (kind == TrakType::Metadata &&
              handlerName.contains(QLatin1String("gps"), Qt::CaseInsensitive))
-        setTelemetry(GpsTrackScheme, chunkTable, chunkCount);
+        setTelemetry(GpsTrack, chunkTable, chunkCount);
     else if (kind == TrakType::Sound)
         probeFreeGps(chunkTable, chunkCount);
 }
@@ -373,7 +367,7 @@ void Mp4Parser::probeFreeGps(quint64 chunkTable, unsigned chunkCount)
         char marker[8];
         readAt(firstChunk + distance, marker, sizeof marker);
         if (qstrncmp(marker, "freeGPS", 7) == 0) {
-            setTelemetry(FreeGpsScheme, chunkTable, chunkCount);
+            setTelemetry(FreeGpsChunks, chunkTable, chunkCount);
             gpsExtraOffset = distance;
             break;
         }

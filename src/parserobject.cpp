@@ -56,9 +56,6 @@ constexpr LocatingScheme Schemes[] = {
     {false, 312, 0}, // 7: AVI "GPSL" block
 };
 
-constexpr int FreeGpsScheme = 3;
-constexpr int UnusedScheme = 5;
-constexpr int SoundChunkScheme = 8;
 constexpr quint64 BlockInSoundChunk = 0x10002;
 
 bool isBlank(char c)
@@ -285,14 +282,14 @@ bool ParserObject::hasSample(int index) const
 bool ParserObject::readBlock(int number, char *block)
 {
     quint64 offset = 0;
-    if (gpsFormat == SoundChunkScheme) {
+    if (gpsFormat == SoundChunks) {
         if (findSoundChunk(number, offset))
             readAt(offset + BlockInSoundChunk, block, BlockSize);
         return true;
     }
     if (gpsFormat == UnusedScheme)
         return true;
-    if (gpsFormat < 1 || gpsFormat > SoundChunkScheme)
+    if (gpsFormat <= NoTelemetry || gpsFormat > SoundChunks)
         return false;
 
     const LocatingScheme &scheme = Schemes[gpsFormat];
@@ -300,7 +297,7 @@ bool ParserObject::readBlock(int number, char *block)
     offset = gpsTableOffset + quint64(scheme.stride) * quint64(number);
     if (scheme.hasTable)
         offset = quint64(tableEntry(offset)) + quint64(scheme.distance);
-    if (gpsFormat == FreeGpsScheme)
+    if (gpsFormat == FreeGpsChunks)
         offset += gpsExtraOffset;
     readAt(offset, block, BlockSize);
     return true;

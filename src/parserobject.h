@@ -27,6 +27,21 @@ class ParserObject : public QObject
 
 public:
     static constexpr int BlockSize = 312;
+
+    /** The locating schemes: where the blocks of a recording lie. */
+    enum Scheme
+    {
+        NoTelemetry = 0,
+        AmbarellaTrack = 1, ///< MP4 track whose handler name contains "Ambarella EXT"
+        GpsBox = 2,         ///< MP4 box "gps " in "moov"
+        FreeGpsChunks = 3,  ///< "freeGPS" in the chunks of an MP4 sound track
+        Gps0Box = 4,        ///< top-level MP4 box "gps0"
+        UnusedScheme = 5,
+        GpsTrack = 6,    ///< MP4 "meta" track whose handler name contains "gps"
+        GpslBlock = 7,   ///< AVI block "GPSL"
+        SoundChunks = 8, ///< AVI chunks "01wb"
+    };
+
     /** No recording yields more samples than this, whatever its tables claim. */
     static constexpr quint32 MaxSampleCount = 4000000;
 
@@ -59,7 +74,7 @@ public:
     bool dataResolve(int number, const char *block, GpsData &out);
 
     QFile file;
-    qint32 gpsFormat = 0;  ///< locating scheme 1 to 8, 0 when no telemetry was found
+    qint32 gpsFormat = 0;  ///< a Scheme
     qint32 width = 0;      ///< as VideoInfo
     qint32 height = 0;     ///< as VideoInfo
     qint32 decodeType = 0; ///< as VideoInfo
