@@ -22,7 +22,6 @@ constexpr int DecodeH265 = 2;
 
 // Longer than any handler name, and still nothing to a computer's memory.
 constexpr quint64 MaxHandlerNameSize = 1024 * 1024;
-constexpr int ReadPieceSize = 256 * 1024;
 
 struct HandlerType
 {
@@ -46,20 +45,14 @@ TrakType trakTypeOf(const char *code)
     return TrakType::Other;
 }
 
-QString textUpToNul(const char *text, uint length)
-{
-    return QString::fromLatin1(text, int(qstrnlen(text, length)));
-}
-
 quint32 uint32At(const char *data, int offset)
 {
     return qFromBigEndian<quint32>(data + offset);
 }
 
-bool isAllZero(const QByteArray &bytes)
+bool isAllZero(const char *bytes, int size)
 {
-    return bytes.at(0) == 0 &&
-           std::memcmp(bytes.constData(), bytes.constData() + 1, size_t(bytes.size() - 1)) == 0;
+    return *bytes == 0 && std::memcmp(bytes, bytes + 1, size_t(size - 1)) == 0;
 }
 
 /** Frames per second rounded to one decimal; 0 when the header leaves it undefined. */
@@ -71,7 +64,8 @@ float roundedFrameRate(quint32 samplesTimesScale, quint32 movieDuration)
 
 } // namespace
 
-Mp4Parser::Mp4Parser(const QString &fileName, QObject *parent) : ParserObject(fileName, parent)
+Mp4Parser::Mp4Parser(const QString &fileName, QObject *parent, KeepRunning keepRunning)
+    : ParserObject(fileName, parent, keepRunning)
 {
     readRootBox();
     qDebug() << "fileName:" << fileName;
@@ -86,7 +80,7 @@ void Mp4Parser::walk(quint64 payload, Handler handle)
 {
     const quint64 start = position();
     bool afterEmptyHeader = false;
-    while (position() - start < payload && !atEnd()) {
+    while (position() - start < payload && mayGoOn(position())) {
         if (readBoxSizeType(boxType, boxSize, boxPayload) == 0) {
             if (afterEmptyHeader)
                 skipEmptyHeaders(payload > WholeFile - start ? WholeFile : start + payload);
@@ -102,20 +96,20 @@ void Mp4Parser::walk(quint64 payload, Handler handle)
 /** Steps over a run of headers of size 0 in bulk: a camera that lost power leaves gigabytes. */
 void Mp4Parser::skipEmptyHeaders(quint64 end)
 {
-    QByteArray piece(ReadPieceSize, Qt::Uninitialized);
+    constexpr int PieceSize = ReadWindow::MaxSize;
     end = std::min(end, fileSize());
-    while (position() < end) {
+    while (position() < end && isStillWanted()) {
         const quint64 pieceStart = position();
-        const qint64 got = readZeroFilled(piece.data(), piece.size());
-        if (got == piece.size() && pieceStart + quint64(got) <= end && isAllZero(piece))
-            continue;
-        for (qint64 i = 0; i + BoxHeaderSize <= got; i += BoxHeaderSize) {
-            if (uint32At(piece.constData(), int(i)) != 0 || pieceStart + quint64(i) >= end) {
-                file.seek(qint64(pieceStart) + i);
-                return;
-            }
+        const char *piece = file.bytesAt(pieceStart, PieceSize);
+        int used = PieceSize;
+        if (!isAllZero(piece, PieceSize) || end - pieceStart < PieceSize) {
+            used = 0;
+            while (used < PieceSize && pieceStart + quint64(used) < end &&
+                   uint32At(piece, used) == 0)
+                used += BoxHeaderSize;
         }
-        if (got < BoxHeaderSize)
+        seekForwardTo(pieceStart + quint64(used));
+        if (used < PieceSize)
             return;
     }
 }
@@ -359,18 +353,12 @@ void Mp4Parser::setTelemetry(int format, quint64 tableOffset, unsigned count)
 void Mp4Parser::probeFreeGps(quint64 chunkTable, unsigned chunkCount)
 {
     constexpr quint32 Distances[] = {0x10004, 0x20004, 0x40004};
-    const quint64 rememberedPosition = position();
-    char entry[sizeof(quint32)];
-    readAt(chunkTable, entry, sizeof entry);
-    const quint64 firstChunk = uint32At(entry, 0);
+    const quint64 firstChunk = uint32At(file.bytesAt(chunkTable, sizeof(quint32)), 0);
     for (const quint32 distance : Distances) {
-        char marker[8];
-        readAt(firstChunk + distance, marker, sizeof marker);
-        if (qstrncmp(marker, "freeGPS", 7) == 0) {
+        if (std::memcmp(file.bytesAt(firstChunk + distance, 8), "freeGPS", 7) == 0) {
             setTelemetry(FreeGpsChunks, chunkTable, chunkCount);
             gpsExtraOffset = distance;
             break;
         }
     }
-    file.seek(qint64(rememberedPosition));
 }

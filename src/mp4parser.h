@@ -22,7 +22,8 @@ class Mp4Parser : public ParserObject
     Q_OBJECT
 
 public:
-    explicit Mp4Parser(const QString &fileName, QObject *parent = nullptr);
+    explicit Mp4Parser(const QString &fileName, QObject *parent = nullptr,
+                       KeepRunning keepRunning = nullptr);
     ~Mp4Parser() override;
 
 private:

@@ -5,7 +5,6 @@
 #include "coordinateconv.h"
 
 #include <QDebug>
-#include <QFileInfo>
 #include <QtEndian>
 
 #include <algorithm>
@@ -16,7 +15,6 @@ namespace {
 
 constexpr char TelemetryMask = 0x5C;
 constexpr int FirstMaskedByte = 2;
-constexpr int TableWindowSize = 16 * 1024;
 constexpr double SamePositionDeg = 0.00001;
 
 // The sample block: offsets from its first byte.
@@ -57,6 +55,12 @@ constexpr LocatingScheme Schemes[] = {
 };
 
 constexpr quint64 BlockInSoundChunk = 0x10002;
+
+// A walk looks so often whether it is still wanted. Those of ordinary recordings are over before.
+constexpr quint32 StepsBetweenLooks = 256;
+
+// A table of invented positions must not fill the log with its millions of bad samples.
+constexpr int MaxAccelerationErrors = 1000;
 
 bool isBlank(char c)
 {
@@ -103,31 +107,17 @@ double scanAngle(const char *text, int degreeWidth)
     return minutes / 10000.0 / 60.0 + degrees;
 }
 
-float scanAcceleration(const char *text)
-{
-    int units = 0;
-    int hundredths = 0;
-    scanTwoNumbers(text + 1, 1, units, 2, hundredths);
-    const float value = float(hundredths) / 100.0f + float(units);
-    if (*text == '-')
-        return -value;
-    if (*text == '+')
-        return value;
-    qDebug() << "gsensor data error";
-    return 0.0f;
-}
-
 } // namespace
 
-ParserObject::ParserObject(const QString &fileName, QObject *parent)
-    : QObject(parent), file(fileName)
+ParserObject::ParserObject(const QString &fileName, QObject *parent, KeepRunning keepRunning)
+    : QObject(parent), file(fileName), mKeepRunning(keepRunning)
 {
-    // Opening a pipe would wait for its writer, so only regular files are opened at all. Reads are
-    // small and scattered: a read buffer would fetch many times what is needed.
-    if (QFileInfo(fileName).isFile() && file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+    if (file.openRegular()) {
         mFileSize = quint64(file.size());
-    else
+        mTableWindow = ReadWindow(file.handle(), mFileSize);
+    } else {
         qDebug() << "Mp4Parser open file error, file:" << fileName;
+    }
 }
 
 ParserObject::~ParserObject() = default;
@@ -214,12 +204,25 @@ bool ParserObject::dataResolve(int number, const char *block, GpsData &out)
     const char *speed = text + SpeedAt;
     scanNumber(speed, 3, out.speed);
 
-    out.gsensorX = scanAcceleration(text + GsensorXAt);
-    out.gsensorY = scanAcceleration(text + GsensorYAt);
-    out.gsensorZ = scanAcceleration(text + GsensorZAt);
+    out.gsensorX = acceleration(text + GsensorXAt);
+    out.gsensorY = acceleration(text + GsensorYAt);
+    out.gsensorZ = acceleration(text + GsensorZAt);
 
     updateDirection(number, out);
     return true;
+}
+
+bool ParserObject::mayGoOn(quint64 offset)
+{
+    if (++mSteps % StepsBetweenLooks == 0)
+        isStillWanted();
+    return offset < mFileSize && !mWasCutShort;
+}
+
+bool ParserObject::isStillWanted()
+{
+    mWasCutShort = mWasCutShort || (mKeepRunning && !mKeepRunning->load(std::memory_order_relaxed));
+    return !mWasCutShort;
 }
 
 void ParserObject::seekForwardTo(quint64 target)
@@ -237,20 +240,37 @@ void ParserObject::skip(quint64 distance)
 qint64 ParserObject::readZeroFilled(char *data, qint64 size)
 {
     const qint64 got = std::max<qint64>(file.isOpen() ? file.read(data, size) : 0, 0);
-    if (got < size) {
-        std::memset(data + got, 0, size_t(size - got));
-        // A file that shrinks while it is read must end the walk like any other end of file.
-        file.seek(qint64(mFileSize));
-    }
+    std::memset(data + got, 0, size_t(size - got));
     return got;
 }
 
-void ParserObject::readAt(quint64 offset, char *data, qint64 size)
+QString ParserObject::textUpToNul(const char *text, uint length)
 {
-    if (offset < mFileSize && file.seek(qint64(offset)))
-        readZeroFilled(data, size);
-    else
-        std::memset(data, 0, size_t(size));
+    return QString::fromLatin1(text, int(qstrnlen(text, length)));
+}
+
+void ParserObject::startChunks(quint64 firstChunk)
+{
+    mFirstChunk = mNextChunk = firstChunk;
+    mSoundChunkCount = 0;
+    mSoundChunks.clear();
+}
+
+void ParserObject::passChunk()
+{
+    constexpr int HeaderSize = 8;
+    const char *header = file.bytesAt(mNextChunk, HeaderSize);
+    quint64 size = qFromLittleEndian<quint32>(header + 4);
+    // Required: sound chunks are stepped over by their plain size, all others by the size rounded
+    // up to even.
+    if (std::memcmp(header, "01wb", 4) == 0) {
+        ++mSoundChunkCount;
+        if (quint32(mSoundChunks.size()) < MaxSampleCount)
+            mSoundChunks.append(mNextChunk);
+    } else {
+        size += size % 2;
+    }
+    mNextChunk += HeaderSize + size;
 }
 
 template <typename Int>
@@ -284,7 +304,7 @@ bool ParserObject::readBlock(int number, char *block)
     quint64 offset = 0;
     if (gpsFormat == SoundChunks) {
         if (findSoundChunk(number, offset))
-            readAt(offset + BlockInSoundChunk, block, BlockSize);
+            std::memcpy(block, file.bytesAt(offset + BlockInSoundChunk, BlockSize), BlockSize);
         return true;
     }
     if (gpsFormat == UnusedScheme)
@@ -299,42 +319,41 @@ bool ParserObject::readBlock(int number, char *block)
         offset = quint64(tableEntry(offset)) + quint64(scheme.distance);
     if (gpsFormat == FreeGpsChunks)
         offset += gpsExtraOffset;
-    readAt(offset, block, BlockSize);
+    std::memcpy(block, file.bytesAt(offset, BlockSize), BlockSize);
     return true;
 }
 
 quint32 ParserObject::tableEntry(quint64 offset)
 {
-    const quint64 entryEnd = offset + sizeof(quint32);
-    if (offset < mTableWindowOffset ||
-        entryEnd > mTableWindowOffset + quint64(mTableWindow.size())) {
-        mTableWindow.resize(TableWindowSize);
-        mTableWindowOffset = offset;
-        readAt(offset, mTableWindow.data(), mTableWindow.size());
-    }
-    return qFromBigEndian<quint32>(mTableWindow.constData() + (offset - mTableWindowOffset));
+    return qFromBigEndian<quint32>(mTableWindow.bytesAt(offset, sizeof(quint32)));
 }
 
 bool ParserObject::findSoundChunk(int number, quint64 &offset)
 {
-    if (mSoundChunks.isEmpty())
-        mNextChunk = quint32(gpsTableOffset);
-    while (mSoundChunks.size() < number && mNextChunk < mFileSize) {
-        char header[8];
-        readAt(mNextChunk, header, sizeof header);
-        quint64 size = qFromLittleEndian<quint32>(header + 4);
-        // Required: sound chunks are stepped over by their plain size, all others by the size
-        // rounded up to even.
-        if (std::memcmp(header, "01wb", 4) == 0)
-            mSoundChunks.append(mNextChunk);
-        else
-            size += size % 2;
-        mNextChunk += sizeof header + size;
-    }
+    const quint64 firstChunk = quint32(gpsTableOffset); // required: 32 bits
+    if (mFirstChunk != firstChunk)
+        startChunks(firstChunk);
+    while (mSoundChunks.size() < number && mayGoOn(mNextChunk))
+        passChunk();
     if (mSoundChunks.size() < number)
         return false;
     offset = mSoundChunks.at(number - 1);
     return true;
+}
+
+float ParserObject::acceleration(const char *text)
+{
+    int units = 0;
+    int hundredths = 0;
+    scanTwoNumbers(text + 1, 1, units, 2, hundredths);
+    const float value = float(hundredths) / 100.0f + float(units);
+    if (*text == '-')
+        return -value;
+    if (*text == '+')
+        return value;
+    if (++mAccelerationErrors <= MaxAccelerationErrors)
+        qDebug() << "gsensor data error";
+    return 0.0f;
 }
 
 void ParserObject::updateDirection(int number, GpsData &sample)

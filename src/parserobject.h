@@ -3,12 +3,14 @@
 #pragma once
 
 #include "gpsdata.h"
+#include "readwindow.h"
+#include "recordingfile.h"
 
-#include <QByteArray>
 #include <QDateTime>
-#include <QFile>
 #include <QObject>
 #include <QVector>
+
+#include <atomic>
 
 /**
  * Base of the container walkers: the open recording, readers for its integers, the facts that the
@@ -45,12 +47,21 @@ public:
     /** No recording yields more samples than this, whatever its tables claim. */
     static constexpr quint32 MaxSampleCount = 4000000;
 
+    /** Set while the walk is wanted; null means always. */
+    using KeepRunning = const std::atomic<bool> *;
+
     /**
      * Opens the recording for reading. Anything but a readable regular file is reported by a
-     * debug line; every later read then yields zeros and no telemetry is found.
+     * debug line; every later read then yields zeros and no telemetry is found. Once
+     * @p keepRunning is cleared, a walk ends as if the file did (wasCutShort()).
      */
-    explicit ParserObject(const QString &fileName, QObject *parent = nullptr);
+    explicit ParserObject(const QString &fileName, QObject *parent = nullptr,
+                          KeepRunning keepRunning = nullptr);
     ~ParserObject() override;
+
+    /** Whether a walk was given up because nobody waits for it any more: then its facts and its
+     *  telemetry are incomplete. */
+    bool wasCutShort() const { return mWasCutShort; }
 
     /** Integers at the current file position, which advances by their width. Bytes missing at the
      *  end of the file read as zero. */
@@ -73,7 +84,7 @@ public:
      *  returns true. */
     bool dataResolve(int number, const char *block, GpsData &out);
 
-    QFile file;
+    RecordingFile file;
     qint32 gpsFormat = 0;  ///< a Scheme
     qint32 width = 0;      ///< as VideoInfo
     qint32 height = 0;     ///< as VideoInfo
@@ -92,7 +103,12 @@ public:
 protected:
     quint64 fileSize() const { return mFileSize; }
     quint64 position() const { return quint64(file.pos()); }
-    bool atEnd() const { return position() >= mFileSize; }
+
+    /** Whether a walk or search may take its next step, at @p offset: inside the file, and still
+     *  wanted. To be asked at every step. */
+    bool mayGoOn(quint64 offset);
+    /** Looks whether the walk is still wanted; once it is not, it never is again. */
+    bool isStillWanted();
 
     /** Moves to an absolute position; one that lies behind the current position or past the end,
      *  as a wrapped or invented size makes it, moves to the end of the file. */
@@ -102,8 +118,17 @@ protected:
     /** Reads up to @p size bytes at the current position and fills the rest with zeros. Returns
      *  the number of bytes read; after a short read the position is the end of the file. */
     qint64 readZeroFilled(char *data, qint64 size);
-    /** The same at @p offset, without a defined position afterwards. */
-    void readAt(quint64 offset, char *data, qint64 size);
+
+    /** Text of at most @p length characters, up to the first NUL. */
+    static QString textUpToNul(const char *text, uint length);
+
+    /** Begins a walk over AVI chunks at @p firstChunk; no sound chunk is known yet. */
+    void startChunks(quint64 firstChunk);
+    /** Steps over the chunk at nextChunk(), and remembers where it is if it is a sound chunk. */
+    void passChunk();
+    quint64 nextChunk() const { return mNextChunk; }
+    /** The sound chunks ("01wb") passed. */
+    quint32 soundChunkCount() const { return mSoundChunkCount; }
 
 private:
     template <typename Int>
@@ -114,15 +139,21 @@ private:
     bool readBlock(int number, char *block);
     quint32 tableEntry(quint64 offset);
     bool findSoundChunk(int number, quint64 &offset);
+    float acceleration(const char *text);
     void updateDirection(int number, GpsData &sample);
 
     quint64 mFileSize = 0;
+    ReadWindow mTableWindow; // apart from the file's own, which the blocks are read through
 
-    // The piece of the position table read last: neighbouring entries come in one read.
-    QByteArray mTableWindow;
-    quint64 mTableWindowOffset = 0;
+    KeepRunning mKeepRunning = nullptr;
+    quint32 mSteps = 0;
+    bool mWasCutShort = false;
+    int mAccelerationErrors = 0;
 
-    // Scheme 8: headers of the "01wb" chunks met so far, and where the walk goes on.
-    QVector<quint64> mSoundChunks;
-    quint64 mNextChunk = 0;
+    // Scheme 8: the headers of the sound chunks passed, counted from mFirstChunk on.
+    static constexpr quint64 NoChunk = ~Q_UINT64_C(0);
+    quint64 mFirstChunk = NoChunk;
+    quint64 mNextChunk = NoChunk;
+    quint32 mSoundChunkCount = 0;
+    QVector<quint64> mSoundChunks; // no more than samples can be asked for
 };

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "videoparser.h"
 
+#include "aviparser.h"
 #include "mp4parser.h"
 
 #include <QCoreApplication>
@@ -75,7 +76,8 @@ void VideoParser::stopParserGpsData()
 void VideoParser::run()
 {
     const std::unique_ptr<ParserObject> walker = createWalker();
-    emit videoInfoChanged(id, videoInfoOf(*walker));
+    if (!walker->wasCutShort())
+        emit videoInfoChanged(id, videoInfoOf(*walker));
     decodeAll(*walker);
     serve();
     position.store(-1, std::memory_order_relaxed);
@@ -84,7 +86,10 @@ void VideoParser::run()
 
 std::unique_ptr<ParserObject> VideoParser::createWalker() const
 {
-    return std::make_unique<Mp4Parser>(url.toLocalFile());
+    const QString fileName = url.toLocalFile();
+    if (fileName.endsWith(QLatin1String(".AVI"), Qt::CaseInsensitive))
+        return std::make_unique<AVIParser>(fileName, nullptr, &running);
+    return std::make_unique<Mp4Parser>(fileName, nullptr, &running);
 }
 
 void VideoParser::decodeAll(ParserObject &walker)

@@ -47,7 +47,8 @@ public:
     void stopParserGpsData();
 
 signals:
-    /** Once a pass, as soon as the container has been walked. */
+    /** Once a pass, as soon as the container has been walked; not if the pass was told to end
+     *  before a long walk had. */
     void videoInfoChanged(int id, VideoInfo info);
     void gpsDataChanged(int id, GpsData sample);
     void allGpsDataParserFinished(int id, const QList<GpsData> &list);
