@@ -177,8 +177,10 @@ int PlaylistModel::addDataByUrl(const QUrl &url)
     auto row = std::make_unique<RowData>();
     row->id = id;
     row->fileName = file.fileName();
-    row->createDate = file.birthTime();
-    row->size = file.size();
+    if (file.isFile() && file.isReadable()) {
+        row->createDate = file.birthTime();
+        row->size = file.size();
+    }
     row->url = url;
     connectWorker(*row);
     row->parser.start(url, id, 0);

@@ -7,6 +7,40 @@
 #include <QAbstractItemModelTester>
 #include <QtTest>
 
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+/** Root reads every file: while one of these lives, such a process acts as an ordinary user. */
+class OrdinaryUser
+{
+public:
+    ~OrdinaryUser()
+    {
+        if (mWasRoot && setresuid(0, 0, 0) != 0)
+            qFatal("Cannot be root again");
+    }
+
+    bool isActive() const { return mIsActive; }
+
+private:
+    static constexpr uid_t Nobody = 65534;
+
+    const bool mWasRoot = geteuid() == 0;
+    const bool mIsActive = !mWasRoot || setresuid(Nobody, Nobody, 0) == 0;
+};
+
+bool makeUnreadable(const QString &name)
+{
+    QFile file(name);
+    return file.open(QFile::WriteOnly) && file.write("ftyp") == 4 && file.setPermissions({});
+}
+} // namespace
+
+/** Makes something of this name that is no recording. */
+using OddityMaker = bool (*)(const QString &);
+Q_DECLARE_METATYPE(OddityMaker)
+
 class TestPlaylistModel : public QObject
 {
     Q_OBJECT
@@ -16,6 +50,8 @@ private slots:
     void init();
     void titlesAndSizes();
     void reading();
+    void notRecordings_data();
+    void notRecordings();
     void partners();
     void rows();
     void telemetryUntilCleared();
@@ -124,6 +160,41 @@ void TestPlaylistModel::reading()
     QCOMPARE(changes.count(), 5);
     QCOMPARE(cells(0).at(PlaylistModel::Duration), QString("00:01:05"));
     QCOMPARE(cells(1).at(PlaylistModel::Duration), QString("06:28:15"));
+}
+
+void TestPlaylistModel::notRecordings_data()
+{
+    QTest::addColumn<OddityMaker>("make");
+    QTest::newRow("folder") << OddityMaker([](const QString &name) { return QDir().mkdir(name); });
+    QTest::newRow("pipe without a writer") << OddityMaker(
+        [](const QString &name) { return mkfifo(QFile::encodeName(name).constData(), 0600) == 0; });
+    QTest::newRow("unreadable file") << OddityMaker(&makeUnreadable);
+    QTest::newRow("link to nowhere")
+        << OddityMaker([](const QString &name) { return QFile::link(name + ".gone", name); });
+}
+
+/** The row is there and shows nothing, and closing does not wait for what will never be read. */
+void TestPlaylistModel::notRecordings()
+{
+    QFETCH(OddityMaker, make);
+    const OrdinaryUser user;
+    QVERIFY2(user.isActive(), "the test could not give up the rights to read everything");
+    const QTemporaryDir folder;
+    const QString name = folder.filePath("odd.mp4");
+    QVERIFY(make(name));
+    QSignalSpy changes(mModel.get(), &QAbstractItemModel::dataChanged);
+    mModel->addDataByUrl(QUrl::fromLocalFile(name));
+    QTRY_COMPARE(changes.count(), 2);
+    QCOMPARE(cells(0), QStringList({"odd.mp4", "00:00:00", "", "0 bytes", "0 x 0"}));
+    QSignalSpy lists(mModel.get(), &PlaylistModel::allGpsDataParserFinished);
+    mModel->updateAllGpsData(0);
+    QTRY_COMPARE(lists.count(), 1);
+    QVERIFY(lists.first().last().value<QList<GpsData>>().isEmpty());
+
+    QElapsedTimer timer;
+    timer.start();
+    mModel.reset();
+    QVERIFY2(timer.elapsed() < 1500, qPrintable(QString::number(timer.elapsed())));
 }
 
 /** The name of the recording that pairs with the one at this place. */
