@@ -4,8 +4,9 @@
 #
 # Installs what is missing, builds the player and starts it:
 #   ./run.sh [RECORDING...]
-# Without recordings it plays a demo pair, front and rear, which it makes on the first run. Without
-# a display it plays on a virtual one, leaves a screenshot in the build folder and ends.
+# Without recordings it opens demo recordings, which it makes on the first run: a pair, front and
+# rear, which it plays, and an AVI. Without a display it plays on a virtual one, leaves a screenshot
+# in the build folder and ends.
 set -eu
 
 root=$(cd "$(dirname "$0")" && pwd)
@@ -32,7 +33,8 @@ build_player() {
 }
 
 make_demo() {
-    [ -f "$demo/MOVA0001.MP4" ] && [ -f "$demo/MOVB0001.MP4" ] && return
+    [ -f "$demo/MOVA0001.MP4" ] && [ -f "$demo/MOVB0001.MP4" ] && [ -f "$demo/MOVA0002.AVI" ] &&
+        return
     echo "Making the demo recordings (once, about a minute) ..."
     "$build/tools/demo-recordings" "$demo" || fail "could not make the demo recordings"
 }
@@ -65,7 +67,7 @@ fi
 build_player
 if [ $# -eq 0 ]; then
     make_demo
-    set -- "$demo/MOVA0001.MP4" "$demo/MOVB0001.MP4"
+    set -- "$demo/MOVA0001.MP4" "$demo/MOVB0001.MP4" "$demo/MOVA0002.AVI"
 fi
 if has_display; then
     exec "$player" "$@"

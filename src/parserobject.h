@@ -45,7 +45,7 @@ public:
     };
 
     /** No recording yields more samples than this, whatever its tables claim. */
-    static constexpr quint32 MaxSampleCount = 4000000;
+    static constexpr quint32 MaxSampleCount = 1000000;
 
     /** Set while the walk is wanted; null means always. */
     using KeepRunning = const std::atomic<bool> *;

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Quellfern
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "aviwriter.h"
 #include "recordingwriter.h"
 #include "videoparser.h"
 
@@ -96,6 +97,11 @@ void TestVideoParser::reportsRecordings()
         QCOMPARE(mInfo.decodeType, 2);
         QCOMPARE(mInfo.createDate, QDateTime(QDate(1904, 1, 2), QTime(0, 0)));
     }
+    const QString avi = mDir.filePath(QStringLiteral("clip.mp4.aVi"));
+    QVERIFY(AviWriter().save(avi));
+    mWorker->start(QUrl::fromLocalFile(avi), 8, 0);
+    expect("8: 640 wide");
+    QVERIFY(!mInfo.createDate.isValid());
     mWorker->start(QUrl(), 7, 3600000); // ended before that comes, with the test
 }
 

@@ -17,6 +17,12 @@ const char OutputOptions[] =
     "-colorspace bt709 -color_primaries bt709 -color_trc bt709 "
     "-c:a aac -b:a 64k -metadata creation_time=%2";
 
+// An AVI of bounded size: each Motion JPEG picture stands alone and is large. Its colours are those
+// of JPEG.
+const char AviOptions[] =
+    "-c:v mjpeg -b:v 5000k -vf scale=w='min(960,iw)':h=-2:out_color_matrix=bt601:out_range=pc "
+    "-pix_fmt yuvj420p -c:a pcm_s16le -f avi";
+
 QStringList arguments(const RecordingFormat &format, const QString &soundFile,
                       const QString &videoFile)
 {
@@ -32,6 +38,13 @@ QStringList arguments(const RecordingFormat &format, const QString &soundFile,
                                .arg(format.framesPerSecond)
                                .arg(format.startTime.toString("yyyy-MM-ddTHH:mm:ssZ"));
     return input.split(' ') + QStringList{soundFile} + output.split(' ') + QStringList{videoFile};
+}
+
+QStringList aviArguments(const QString &videoFile, double seconds, const QString &aviFile)
+{
+    const QString input = QStringLiteral("-hide_banner -loglevel error -nostdin -y -t %1 -i");
+    return input.arg(seconds).split(' ') + QStringList{videoFile} + QString(AviOptions).split(' ') +
+           QStringList{aviFile};
 }
 } // namespace
 
@@ -49,7 +62,7 @@ QString DemoEncoder::obstacle()
         return QStringLiteral("the program ffmpeg is needed and was not found");
     process.waitForFinished();
     const QByteArray encoders = process.readAllStandardOutput();
-    for (const char *name : {"libx264", "aac"}) {
+    for (const char *name : {"libx264", "aac", "mjpeg", "pcm_s16le"}) {
         if (!encoders.contains(QByteArray(" ") + name + ' '))
             return QStringLiteral("this ffmpeg has no encoder %1").arg(QLatin1String(name));
     }
@@ -61,6 +74,11 @@ void DemoEncoder::start(const RecordingFormat &format, const QString &soundFile,
 {
     mProcess.setStandardOutputFile(QProcess::nullDevice());
     mProcess.start("ffmpeg", arguments(format, soundFile, videoFile));
+}
+
+void DemoEncoder::startAvi(const QString &videoFile, double seconds, const QString &aviFile)
+{
+    mProcess.start("ffmpeg", aviArguments(videoFile, seconds, aviFile));
 }
 
 bool DemoEncoder::write(const QImage &picture)

@@ -18,9 +18,9 @@ struct RecordingFormat
 };
 
 /**
- * Encodes pictures and sound into an MP4 recording of H.264 and AAC, with the ffmpeg program of
- * the system. Its "moov" is the last box; each second begins with a key frame. Blocks its thread
- * while the program is behind.
+ * Encodes one recording, with the ffmpeg program of the system: from pictures and sound an MP4 of
+ * H.264 and AAC, whose "moov" is the last box and whose seconds each begin with a key frame; or
+ * from such an MP4 an AVI of Motion JPEG and PCM. Blocks its thread while the program is behind.
  */
 class DemoEncoder
 {
@@ -34,6 +34,9 @@ public:
 
     /** @p soundFile holds what engineSound() made. */
     void start(const RecordingFormat &format, const QString &soundFile, const QString &videoFile);
+    /** Makes an AVI of the first @p seconds of an encoded recording, or of all of it if that is
+     *  shorter. Its pictures are at most 960 pixels wide, and it has up to 0.7 MB a second. */
+    void startAvi(const QString &videoFile, double seconds, const QString &aviFile);
     /** Hands on a picture of Format_RGB32 and the format's size. Returns false when the program
      *  has ended early. */
     bool write(const QImage &picture);

@@ -1,8 +1,9 @@
 // SPDX-FileCopyrightText: 2026 Quellfern
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Makes a pair of recordings, front and rear, of a simulated drive: pictures, sound and telemetry
-// that agree, so that a person sees at a glance whether a player's displays are in step.
+// Makes recordings of a simulated drive, a pair, front and rear, and the beginning of the front one
+// as an AVI: pictures, sound and telemetry that agree, so that a person sees at a glance whether a
+// player's displays are in step.
 
 #include "democountry.h"
 #include "demodrive.h"
@@ -20,9 +21,15 @@
 #include <QTemporaryDir>
 #include <QTextStream>
 
+#include <algorithm>
+#include <cmath>
+
 namespace {
 constexpr QSize SmallestSize(160, 90);
 constexpr QSize LargestSize(3840, 2160);
+// Players take an AVI's duration from the whole microseconds of a frame and cut it to seconds: a
+// little more than 20 s makes it 20.
+constexpr double AviSeconds = 20.1;
 
 struct Order
 {
@@ -30,18 +37,23 @@ struct Order
     RecordingFormat format;
 };
 
-/** One of the pair on its way: painted, encoded, and at the end held whole in memory. */
+/** A recording on its way: at the end held whole in memory. */
 struct Recording
 {
-    Recording(const QString &fileName, int scheme, const DemoScene &view)
-        : name(fileName), telemetryScheme(scheme), scene(view)
-    {}
+    QString name;
+    int telemetryScheme;
+    int sampleCount; ///< of telemetry, one for each second begun
+    QByteArray content = {};
+};
 
-    const QString name;
-    const int telemetryScheme;
+/** One of the pair, painted and encoded. */
+struct View
+{
+    View(const Recording &product, const DemoScene &view) : recording(product), scene(view) {}
+
+    Recording recording;
     DemoScene scene;
     DemoEncoder encoder;
-    QByteArray content;
 };
 
 int fail(const QString &message)
@@ -76,8 +88,8 @@ QSize pictureSize(const QString &text, QString *error)
 Order readOrder(QString *error)
 {
     QCommandLineParser parser;
-    parser.setApplicationDescription(
-        QStringLiteral("Makes a pair of demo recordings, front and rear, with telemetry."));
+    parser.setApplicationDescription(QStringLiteral(
+        "Makes demo recordings with telemetry: a pair, front and rear, and an AVI."));
     parser.addHelpOption();
     parser.addPositionalArgument("OUTPUT_FOLDER", "Folder for the recordings, made if missing.");
     parser.addOption({"seconds", "Length of the recordings.", "N", "60"});
@@ -125,60 +137,81 @@ bool writeFile(const QString &fileName, const QByteArray &content)
 
 /** Encodes all at once, so that painting and encoding share the processors. Returns why it failed,
  *  or an empty text, as all functions below. */
-QString encode(const RecordingFormat &format, const QList<Recording *> &recordings)
+QString encode(const RecordingFormat &format, const QList<View *> &views)
 {
     const int frames = format.seconds * format.framesPerSecond;
     for (int frame = 0; frame < frames; ++frame) {
-        for (Recording *recording : recordings) {
-            if (!recording->encoder.write(recording->scene.paint(frame, format.framesPerSecond)))
-                return recording->encoder.errorText();
+        for (View *view : views) {
+            if (!view->encoder.write(view->scene.paint(frame, format.framesPerSecond)))
+                return view->encoder.errorText();
         }
     }
-    for (Recording *recording : recordings) {
-        if (!recording->encoder.finish())
-            return recording->encoder.errorText();
+    for (View *view : views) {
+        if (!view->encoder.finish())
+            return view->encoder.errorText();
     }
     return {};
 }
 
-QString addTelemetry(Recording *recording, const QString &videoFile,
-                     const QList<TelemetryBlock> &telemetry)
+QString encodePair(const DemoDrive &drive, const RecordingFormat &format, const QDir &work,
+                   const QList<View *> &pair)
 {
-    QFile file(videoFile);
+    const QString soundFile = work.filePath(QStringLiteral("sound"));
+    // A little short: sound is coded in blocks, and the last one must not outlast the pictures.
+    if (!writeFile(soundFile, engineSound(drive, format.seconds - 0.1)))
+        return QStringLiteral("cannot write temporary files into %1").arg(QDir::tempPath());
+    for (View *view : pair)
+        view->encoder.start(format, soundFile, work.filePath(view->recording.name));
+    return encode(format, pair);
+}
+
+QString encodeAvi(const QString &videoFile, const QString &aviFile)
+{
+    DemoEncoder encoder;
+    encoder.startAvi(videoFile, AviSeconds, aviFile);
+    return encoder.finish() ? QString() : encoder.errorText();
+}
+
+QString addTelemetry(Recording *recording, const DemoDrive &drive, const QDir &work)
+{
+    QFile file(work.filePath(recording->name));
     if (!file.open(QIODevice::ReadOnly))
         return file.errorString();
     recording->content = file.readAll();
+    QList<TelemetryBlock> telemetry;
+    for (int second = 0; second < recording->sampleCount; ++second)
+        telemetry.append(telemetryOf(drive.sampleAt(second)));
     if (!graftTelemetry(recording->content, telemetry, recording->telemetryScheme))
         return QStringLiteral("the encoded %1 takes no telemetry").arg(recording->name);
     return {};
 }
 
-QString makePair(const DemoDrive &drive, const Order &order)
+QString deliver(const Recording &recording, const QString &folder)
 {
-    const QTemporaryDir work;
-    const QString soundFile = work.filePath(QStringLiteral("sound"));
-    // A little short: sound is coded in blocks, and the last one must not outlast the pictures.
-    if (!writeFile(soundFile, engineSound(drive, order.format.seconds - 0.1)))
-        return QStringLiteral("cannot write temporary files into %1").arg(QDir::tempPath());
+    if (writeFile(QDir(folder).filePath(recording.name), recording.content))
+        return {};
+    return QStringLiteral("cannot write %1 into %2").arg(recording.name, folder);
+}
 
+QString makeRecordings(const DemoDrive &drive, const Order &order)
+{
+    const QTemporaryDir temporary;
+    const QDir work(temporary.path());
     const DemoCountry country(drive);
     const QSize size = order.format.size;
-    Recording front("MOVA0001.MP4", 2, {drive, country, DemoScene::Camera::Front, size});
-    Recording rear("MOVB0001.MP4", 4, {drive, country, DemoScene::Camera::Rear, size});
-    const QList<Recording *> pair{&front, &rear};
-    for (Recording *recording : pair)
-        recording->encoder.start(order.format, soundFile, work.filePath(recording->name));
-    QString error = encode(order.format, pair);
+    const int seconds = order.format.seconds;
+    View front({"MOVA0001.MP4", 2, seconds}, {drive, country, DemoScene::Camera::Front, size});
+    View rear({"MOVB0001.MP4", 4, seconds}, {drive, country, DemoScene::Camera::Rear, size});
+    Recording avi{"MOVA0002.AVI", 7, std::min(seconds, int(std::ceil(AviSeconds)))};
 
-    QList<TelemetryBlock> telemetry;
-    for (int second = 0; second < order.format.seconds; ++second)
-        telemetry.append(telemetryOf(drive.sampleAt(second)));
-    for (int i = 0; i < pair.size() && error.isEmpty(); ++i)
-        error = addTelemetry(pair[i], work.filePath(pair[i]->name), telemetry);
-    for (int i = 0; i < pair.size() && error.isEmpty(); ++i) {
-        if (!writeFile(QDir(order.folder).filePath(pair[i]->name), pair[i]->content))
-            error = QStringLiteral("cannot write %1 into %2").arg(pair[i]->name, order.folder);
-    }
+    QString error = encodePair(drive, order.format, work, {&front, &rear});
+    if (error.isEmpty())
+        error = encodeAvi(work.filePath(front.recording.name), work.filePath(avi.name));
+    const QList<Recording *> recordings{&front.recording, &rear.recording, &avi};
+    for (int i = 0; i < recordings.size() && error.isEmpty(); ++i)
+        error = addTelemetry(recordings[i], drive, work);
+    for (int i = 0; i < recordings.size() && error.isEmpty(); ++i)
+        error = deliver(*recordings[i], order.folder);
     return error;
 }
 } // namespace
@@ -196,6 +229,6 @@ int main(int argc, char *argv[])
     order.format.startTime = drive.sampleAt(0).localTime;
     error = obstacle(order);
     if (error.isEmpty())
-        error = makePair(drive, order);
+        error = makeRecordings(drive, order);
     return error.isEmpty() ? 0 : fail(error);
 }

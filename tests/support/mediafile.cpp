@@ -10,14 +10,17 @@
 
 namespace {
 
-bool encode(const QString &fileName, int seconds)
+const QString Sources = QStringLiteral("-v error -y -f lavfi -i testsrc2=size=320x180:rate=30"
+                                       " -f lavfi -i sine=sample_rate=48000 -t %1 ");
+const QString Mp4Codings =
+    QStringLiteral("-c:v libx264 -preset ultrafast -g 30 -pix_fmt yuv420p -c:a aac -f mp4");
+const QString AviCodings =
+    QStringLiteral("-c:v mjpeg -q:v 5 -pix_fmt yuvj420p -c:a pcm_s16le -f avi");
+
+bool encode(const QString &fileName, int seconds, const QString &codings)
 {
     QProcess ffmpeg;
-    const QString arguments =
-        QStringLiteral("-v error -y -f lavfi -i testsrc2=size=320x180:rate=30"
-                       " -f lavfi -i sine=sample_rate=48000 -t %1 -c:v libx264 -preset ultrafast"
-                       " -g 30 -pix_fmt yuv420p -c:a aac -f mp4")
-            .arg(seconds);
+    const QString arguments = Sources.arg(seconds) + codings;
     ffmpeg.start(QStringLiteral("ffmpeg"), arguments.split(QLatin1Char(' ')) << fileName);
     const bool done = ffmpeg.waitForFinished(60000) && ffmpeg.exitCode() == 0;
     if (!done)
@@ -29,7 +32,8 @@ bool encode(const QString &fileName, int seconds)
 
 bool makeMediaFile(const QString &fileName, int seconds, const QList<TelemetryBlock> &samples)
 {
-    if (!encode(fileName, seconds))
+    const bool isAvi = fileName.endsWith(QLatin1String(".avi"), Qt::CaseInsensitive);
+    if (!encode(fileName, seconds, isAvi ? AviCodings : Mp4Codings))
         return false;
     if (samples.isEmpty())
         return true;
@@ -37,6 +41,6 @@ bool makeMediaFile(const QString &fileName, int seconds, const QList<TelemetryBl
     if (!file.open(QIODevice::ReadWrite))
         return false;
     QByteArray recording = file.readAll();
-    return graftTelemetry(recording, samples, 4) && file.seek(0) &&
+    return graftTelemetry(recording, samples, isAvi ? 7 : 4) && file.seek(0) &&
            file.write(recording) == recording.size();
 }

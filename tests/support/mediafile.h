@@ -8,8 +8,11 @@
 #include <QString>
 
 /**
- * Makes a small recording that plays: a moving test picture in H.264 at 30 frames per second with
- * a key frame every second, and a tone in AAC, encoded by ffmpeg. With @p samples, these are
- * grafted in (scheme 4). Returns false, with a warning, when ffmpeg or the file system refuses.
+ * Makes a small recording that plays: a moving test picture at 30 frames per second and a tone,
+ * encoded by ffmpeg. A name that ends in ".avi", in any case, gets an AVI of Motion JPEG and PCM,
+ * any other name an MP4 of H.264, with a key frame every second, and AAC. The AVI's header gives a
+ * frame 33333 us, so that readers cut the duration to a second less. With @p samples, these are
+ * grafted in (scheme 7 or 4). Returns false, with a warning, when ffmpeg or the file system
+ * refuses.
  */
 bool makeMediaFile(const QString &fileName, int seconds, const QList<TelemetryBlock> &samples = {});

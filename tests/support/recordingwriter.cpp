@@ -260,9 +260,14 @@ QByteArray RecordingWriter::encoded() const
 
 bool RecordingWriter::save(const QString &fileName) const
 {
-    const QByteArray bytes = encoded();
+    return saveRecording(fileName, encoded());
+}
+
+bool saveRecording(const QString &fileName, const QByteArray &recording)
+{
     QSaveFile file(fileName);
-    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit())
+    if (file.open(QIODevice::WriteOnly) && file.write(recording) == recording.size() &&
+        file.commit())
         return true;
     qWarning() << "Recording not written:" << fileName << file.errorString();
     return false;
@@ -310,14 +315,27 @@ bool graftGpsTable(QByteArray &recording, int movie, const QList<TelemetryBlock>
     recording += Mp4::box("free", joined(entries, zeros(TableEntryToBlock)));
     return true;
 }
+
+/** Count and pointer are big-endian, unlike all else in an AVI. */
+bool graftGpslBlock(QByteArray &recording, const QList<TelemetryBlock> &entries)
+{
+    if (!recording.startsWith("RIFF") || recording.mid(ShortHeader, 4) != "AVI ")
+        return false;
+    const quint32 block = quint32(recording.size());
+    recording += "GPSL" + Mp4::big32(quint32(entries.size())) + joined(entries, {});
+    recording += Mp4::big32(block);
+    return true;
+}
 } // namespace
 
 bool graftTelemetry(QByteArray &recording, const QList<TelemetryBlock> &samples, int scheme)
 {
+    const QList<TelemetryBlock> entries = withLeadingEntry(samples);
+    if (scheme == 7)
+        return graftGpslBlock(recording, entries);
     const int last = lastBox(recording);
     if (last < 0)
         return false;
-    const QList<TelemetryBlock> entries = withLeadingEntry(samples);
     if (scheme == 2)
         return graftGpsTable(recording, last, entries);
     if (scheme != 4)

@@ -105,13 +105,19 @@ private:
     quint32 mMarkDistance = 0x10004;
 };
 
+/** Writes a whole recording to a file. Returns false, with a warning, when that fails. */
+bool saveRecording(const QString &fileName, const QByteArray &recording);
+
 /**
- * Adds telemetry to an existing recording, which stays playable: no byte before its "moov" moves.
- * N samples given are N samples delivered.
+ * Adds telemetry to an existing recording, which stays playable: no byte of its pictures and sound
+ * moves. N samples given are N samples delivered.
  *
  * Scheme 2 wants "moov" to be the last top-level box, as encoders write it without "faststart": it
  * gets a box "gps " as its last child, and a box "free" with the blocks follows it. Scheme 4 puts a
  * box "gps0" at the end of the file. Returns false and leaves @p recording as it is for another
  * scheme, a recording without such a "moov", and one whose boxes do not end where the file does.
+ *
+ * Scheme 7 is for AVI recordings: it puts a block "GPSL" and the pointer to it at the end of the
+ * file. Returns false and leaves @p recording as it is if that does not begin as an AVI does.
  */
 bool graftTelemetry(QByteArray &recording, const QList<TelemetryBlock> &samples, int scheme);
