@@ -54,6 +54,8 @@ constexpr LocatingScheme Schemes[] = {
     {false, 312, 0}, // 7: AVI "GPSL" block
 };
 
+constexpr int EntrySize = 4; // of a table: what counts of it
+
 constexpr quint64 BlockInSoundChunk = 0x10002;
 
 // A walk looks so often whether it is still wanted. Those of ordinary recordings are over before.
@@ -169,46 +171,21 @@ bool ParserObject::getGpsData(int index, GpsData &out)
         return false;
     out.id = index;
 
-    char block[BlockSize] = {};
-    if (!readBlock(index + 1, block))
+    const char *block = findBlock(index + 1);
+    if (!block)
         return false;
+    TerminatedBlock text = {block[0], block[1]};
     for (int i = FirstMaskedByte; i < BlockSize; ++i)
-        block[i] ^= TelemetryMask;
-    return dataResolve(index + 1, block, out);
+        text[i] = block[i] ^ TelemetryMask;
+    resolve(index + 1, text, out);
+    return true;
 }
 
 bool ParserObject::dataResolve(int number, const char *block, GpsData &out)
 {
-    // A terminated copy: numbers may run on into the next field, never past the block.
-    char text[BlockSize + 1] = {};
+    TerminatedBlock text = {};
     std::memcpy(text, block, BlockSize);
-
-    std::memcpy(out.time, text + TimeAt, TimeLength);
-    out.time[TimeLength] = '\0';
-    out.mark1 = text[Mark1At];
-    std::memcpy(out.time2, text + Time2At, TimeLength);
-    out.time2[TimeLength] = '\0';
-    out.mark2 = text[Mark2At];
-    out.latitudeRef = text[LatitudeRefAt];
-    out.longitudeRef = text[LongitudeRefAt];
-
-    out.latitude = scanAngle(text + LatitudeAt, 2);
-    if (out.latitudeRef == 'S')
-        out.latitude = -out.latitude;
-    out.longitude = scanAngle(text + LongitudeAt, 3);
-    if (out.longitudeRef == 'W')
-        out.longitude = -out.longitude;
-
-    const char *extraValue = text + ExtraValueAt;
-    scanNumber(extraValue, 5, out.extraValue);
-    const char *speed = text + SpeedAt;
-    scanNumber(speed, 3, out.speed);
-
-    out.gsensorX = acceleration(text + GsensorXAt);
-    out.gsensorY = acceleration(text + GsensorYAt);
-    out.gsensorZ = acceleration(text + GsensorZAt);
-
-    updateDirection(number, out);
+    resolve(number, text, out);
     return true;
 }
 
@@ -299,33 +276,68 @@ bool ParserObject::hasSample(int index) const
     return quint32(index) < std::min(gpsCount - 1, MaxSampleCount);
 }
 
-bool ParserObject::readBlock(int number, char *block)
+/** The masked bytes of a block, good until the next read; null for an unknown scheme. */
+const char *ParserObject::findBlock(int number)
 {
-    quint64 offset = 0;
+    static constexpr char NoBlock[BlockSize] = {};
     if (gpsFormat == SoundChunks) {
-        if (findSoundChunk(number, offset))
-            std::memcpy(block, file.bytesAt(offset + BlockInSoundChunk, BlockSize), BlockSize);
-        return true;
+        quint64 chunk = 0;
+        return findSoundChunk(number, chunk) ? file.bytesAt(chunk + BlockInSoundChunk, BlockSize)
+                                             : NoBlock;
     }
     if (gpsFormat == UnusedScheme)
-        return true;
+        return NoBlock;
     if (gpsFormat <= NoTelemetry || gpsFormat > SoundChunks)
-        return false;
-
-    const LocatingScheme &scheme = Schemes[gpsFormat];
-    // Numbers start at 1: entry 0 of every table is skipped, which is required.
-    offset = gpsTableOffset + quint64(scheme.stride) * quint64(number);
-    if (scheme.hasTable)
-        offset = quint64(tableEntry(offset)) + quint64(scheme.distance);
-    if (gpsFormat == FreeGpsChunks)
-        offset += gpsExtraOffset;
-    std::memcpy(block, file.bytesAt(offset, BlockSize), BlockSize);
-    return true;
+        return nullptr;
+    const quint64 offset = blockOffset(number);
+    return file.bytesAt(offset,
+                        file.holds(offset, BlockSize) ? BlockSize : rowSize(number, offset));
 }
 
-quint32 ParserObject::tableEntry(quint64 offset)
+/** Where block @p number lies. Numbers start at 1: entry 0 of every table is skipped, which is
+ *  required. */
+quint64 ParserObject::blockOffset(int number)
 {
-    return qFromBigEndian<quint32>(mTableWindow.bytesAt(offset, sizeof(quint32)));
+    const LocatingScheme &scheme = Schemes[gpsFormat];
+    if (!scheme.hasTable)
+        return gpsTableOffset + quint64(scheme.stride) * quint64(number);
+    const quint64 extra = gpsFormat == FreeGpsChunks ? gpsExtraOffset : 0;
+    return tableEntry(number) + quint64(scheme.distance) + extra;
+}
+
+/** The size of the row of blocks that begins with @p number at @p offset, as far as it is known
+ *  without reading: what one read is to fetch. */
+int ParserObject::rowSize(int number, quint64 offset)
+{
+    quint64 last = offset;
+    for (quint32 next = quint32(number) + 1; next < gpsCount; ++next) {
+        if (!isTableEntryHeld(int(next)))
+            break;
+        const quint64 following = blockOffset(int(next));
+        if (following <= last || following > last + BlockSize + ReadWindow::RowGap ||
+            following + BlockSize > offset + ReadWindow::MaxSize)
+            break;
+        last = following;
+    }
+    return int(last - offset) + BlockSize;
+}
+
+quint32 ParserObject::tableEntry(int number)
+{
+    const quint64 stride = quint64(Schemes[gpsFormat].stride);
+    const quint64 offset = gpsTableOffset + stride * quint64(number);
+    // The table is fetched in large pieces, but no further than it goes.
+    const quint64 rest = stride * std::max<quint64>(gpsCount - quint64(number), 1);
+    const int size =
+        isTableEntryHeld(number) ? EntrySize : int(std::min<quint64>(rest, ReadWindow::MaxSize));
+    return qFromBigEndian<quint32>(mTableWindow.bytesAt(offset, size));
+}
+
+bool ParserObject::isTableEntryHeld(int number) const
+{
+    const LocatingScheme &scheme = Schemes[gpsFormat];
+    const quint64 offset = gpsTableOffset + quint64(scheme.stride) * quint64(number);
+    return !scheme.hasTable || mTableWindow.holds(offset, EntrySize);
 }
 
 bool ParserObject::findSoundChunk(int number, quint64 &offset)
@@ -339,6 +351,37 @@ bool ParserObject::findSoundChunk(int number, quint64 &offset)
         return false;
     offset = mSoundChunks.at(number - 1);
     return true;
+}
+
+/** Numbers may run on into the next field, but never past the end of @p text. */
+void ParserObject::resolve(int number, const TerminatedBlock &text, GpsData &out)
+{
+    std::memcpy(out.time, text + TimeAt, TimeLength);
+    out.time[TimeLength] = '\0';
+    out.mark1 = text[Mark1At];
+    std::memcpy(out.time2, text + Time2At, TimeLength);
+    out.time2[TimeLength] = '\0';
+    out.mark2 = text[Mark2At];
+    out.latitudeRef = text[LatitudeRefAt];
+    out.longitudeRef = text[LongitudeRefAt];
+
+    out.latitude = scanAngle(text + LatitudeAt, 2);
+    if (out.latitudeRef == 'S')
+        out.latitude = -out.latitude;
+    out.longitude = scanAngle(text + LongitudeAt, 3);
+    if (out.longitudeRef == 'W')
+        out.longitude = -out.longitude;
+
+    const char *extraValue = text + ExtraValueAt;
+    scanNumber(extraValue, 5, out.extraValue);
+    const char *speed = text + SpeedAt;
+    scanNumber(speed, 3, out.speed);
+
+    out.gsensorX = acceleration(text + GsensorXAt);
+    out.gsensorY = acceleration(text + GsensorYAt);
+    out.gsensorZ = acceleration(text + GsensorZAt);
+
+    updateDirection(number, out);
 }
 
 float ParserObject::acceleration(const char *text)

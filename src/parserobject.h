@@ -131,14 +131,20 @@ protected:
     quint32 soundChunkCount() const { return mSoundChunkCount; }
 
 private:
+    using TerminatedBlock = char[BlockSize + 1];
+
     template <typename Int>
     Int readBig();
     template <typename Int>
     Int readLittle();
     bool hasSample(int index) const;
-    bool readBlock(int number, char *block);
-    quint32 tableEntry(quint64 offset);
+    const char *findBlock(int number);
+    quint64 blockOffset(int number);
+    int rowSize(int number, quint64 offset);
+    quint32 tableEntry(int number);
+    bool isTableEntryHeld(int number) const;
     bool findSoundChunk(int number, quint64 &offset);
+    void resolve(int number, const TerminatedBlock &text, GpsData &out);
     float acceleration(const char *text);
     void updateDirection(int number, GpsData &sample);
 

@@ -8,14 +8,6 @@
 #include <cerrno>
 #include <cstring>
 
-namespace {
-
-// A gap of so many bytes still counts as in a row. It covers what cameras put before each block,
-// and a million tiny boxes; what is read in vain stays well below the size of a block.
-constexpr int RowGap = 128;
-
-} // namespace
-
 ReadWindow::ReadWindow(int fileDescriptor, quint64 fileSize)
     : mFileDescriptor(fileDescriptor), mFileSize(fileSize)
 {}

@@ -16,6 +16,10 @@ class ReadWindow
 {
 public:
     static constexpr int MaxSize = 64 * 1024; ///< bytes a piece grows to
+    /** A gap of so many bytes still counts as in a row. It covers what cameras put before each
+     *  block, and a million tiny boxes; what is read in vain stays well below the size of a block.
+     */
+    static constexpr int RowGap = 128;
 
     /** A window on no file: everything reads as zeros. */
     ReadWindow() = default;
@@ -25,14 +29,17 @@ public:
 
     quint64 fileSize() const { return mFileSize; }
 
+    /** Whether a request for these bytes needs no reading. */
+    bool holds(quint64 offset, int size) const
+    {
+        return offset >= mOffset && offset - mOffset + quint64(size) <= quint64(mBytes.size());
+    }
+
     /** The @p size bytes at @p offset; bytes behind the end of the file, and
      *  those that the medium refuses to give, are zeros. Good until the next request. */
     const char *bytesAt(quint64 offset, int size)
     {
-        const quint64 inWindow = offset - mOffset;
-        if (offset < mOffset || inWindow + quint64(size) > quint64(mBytes.size()))
-            return load(offset, size);
-        return mBytes.constData() + inWindow;
+        return holds(offset, size) ? mBytes.constData() + (offset - mOffset) : load(offset, size);
     }
 
 private:

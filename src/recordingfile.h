@@ -24,6 +24,8 @@ public:
      *  file: opening a pipe would wait for its writer. */
     bool openRegular();
 
+    /** Whether bytesAt() has these bytes without reading. */
+    bool holds(quint64 offset, int size) const { return mWindow.holds(offset, size); }
     /** The @p size bytes at @p offset; those behind the end of the file are zeros. The pointer is
      *  good until the next read. Neither uses nor moves the position. */
     const char *bytesAt(quint64 offset, int size) { return mWindow.bytesAt(offset, size); }
