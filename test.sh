@@ -3,7 +3,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 #
 # Installs what is missing, builds the player with its tests and runs every test:
-#   ./test.sh [PRESET...]       dev (the default), or asan for the sanitizers
+#   ./test.sh [PRESET...]       dev (the default), asan for the sanitizers, fuzz for the fuzzers
 set -eu
 
 root=$(cd "$(dirname "$0")" && pwd)
