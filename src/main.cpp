@@ -11,6 +11,8 @@
 #include <QIcon>
 #include <QTextCodec>
 
+#include <unistd.h>
+
 #include <cstdlib>
 
 namespace {
@@ -22,6 +24,13 @@ void preferX11()
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM") &&
         qEnvironmentVariableIsSet("WAYLAND_DISPLAY"))
         qputenv("QT_QPA_PLATFORM", "xcb;wayland");
+}
+
+/** The web engine's sandbox refuses to run for root, and the whole program would end. */
+void allowMapAsRoot()
+{
+    if (geteuid() == 0)
+        qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
 }
 
 int printInformation(int argc, char *argv[])
@@ -38,6 +47,7 @@ int main(int argc, char *argv[])
     if (CommandLine::asksForInformation(argc, argv))
         return printInformation(argc, argv);
     preferX11();
+    allowMapAsRoot();
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
 

@@ -6,6 +6,7 @@
 
 #include "appname.h"
 #include "configuration.h"
+#include "gpsuser.h"
 #include "mediaurl.h"
 #include "movefilter.h"
 #include "playlistmodel.h"
@@ -19,36 +20,13 @@
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QScreen>
-#include <QScrollBar>
 #include <QTime>
+#include <QTimer>
 
 #include <algorithm>
 #include <cmath>
 
 namespace {
-
-constexpr int RowHeight = 38;
-// The last column takes the rest, but no less than this.
-constexpr int ColumnWidths[] = {200, 80, 140, 80, 80};
-
-const char TableStyle[] =
-    "QTableView{color: rgb(170, 170, 170); background-color: rgb(44, 44, 52); border: none;"
-    " alternate-background-color: rgb(54, 54, 62);"
-    " selection-background-color: rgb(73, 85, 114); selection-color: rgb(250, 250, 250);}";
-
-// Set on the header itself: below a dialog with a style sheet, sections do not inherit theirs.
-const char HeaderStyle[] =
-    "QHeaderView{background-color: rgb(20, 20, 20);}"
-    "QHeaderView::section{height: 24px; color: white; background-color: rgb(20, 20, 20);"
-    " border: none;}";
-
-// %1 the orientation, %2 the dimension across the bar.
-const char ScrollBarStyle[] =
-    "QScrollBar:%1{%2: 8px; background: rgb(40, 40, 48); margin: 0px; border: none;}"
-    "QScrollBar::handle:%1{background: rgb(60, 60, 68); border-radius: 5px; min-%3: 24px;}"
-    "QScrollBar::handle:%1:hover{background: rgb(170, 170, 170);}"
-    "QScrollBar::add-line:%1, QScrollBar::sub-line:%1{width: 0px; height: 0px;}"
-    "QScrollBar::add-page:%1, QScrollBar::sub-page:%1{background: none;}";
 
 QFont pixelFont(const QString &family, int pixelSize, QFont::Weight weight)
 {
@@ -87,7 +65,7 @@ MainWindows::MainWindows(QWidget *parent)
     setWindowTitle(APP_NAME);
     installMoving();
     mUi->wgt_ControlPanel->setFocusPolicy(Qt::StrongFocus);
-    setupPlaylistTable();
+    setupPlaylist();
     setupControlPanel();
     disableMissingFeatures();
     setAppName(APP_NAME);
@@ -138,7 +116,18 @@ void MainWindows::playByData(const RowData *row)
     mUi->wgt_PlayArea->setPlayerNum(related ? 2 : 1);
     mUi->wgt_PlayArea->setResourceData(row, related);
     setTitleFileName(row->url.fileName(QUrl::FullyDecoded));
-    mPlaylistModel->updateAllGpsData(row->id);
+    clearGauges();
+    // Later, because clearing the map processes events: this may be the media backend's own
+    // end-of-media handling, which has to finish before the next recording starts.
+    const int rowId = row->id;
+    const int round = ++mRound;
+    QTimer::singleShot(0, this, [this, rowId, round] { clearAndAskForTelemetry(rowId, round); });
+}
+
+void MainWindows::clearAll()
+{
+    clearGauges();
+    mUi->wgt_MapView->clearAll();
 }
 
 void MainWindows::onUpdateLanguage()
@@ -152,6 +141,7 @@ void MainWindows::onUpdateLanguage()
     setTitleFileName(QString());
     setWindowTitle(QCoreApplication::applicationName());
     showMaximizedState(); // the form knows one of the two tooltips only
+    mUi->wgt_MapView->setMapType(Configuration::GetInstance()->maps());
 }
 
 void MainWindows::openFile()
@@ -182,9 +172,12 @@ void MainWindows::onDropFile(const QString &filePath)
 
 void MainWindows::onStop()
 {
+    ++mRound;
+    clearGauges();
     mUi->wgt_PlayArea->stop();
     mUi->wgt_ControlPanel->reinit();
     setTitleFileName(QString());
+    QTimer::singleShot(0, this, &MainWindows::clearAll); // for the same reason as at a start
 }
 
 void MainWindows::playClicked()
@@ -265,12 +258,19 @@ void MainWindows::onGpsDataChanged(int rowId, const GpsData &sample)
     panel->setGpsDataTime(
         QDateTime::fromString(QLatin1String(sample.time), QStringLiteral("yyyyMMddhhmmss")));
     panel->setGpsSpeed(sample.speed);
+    mUi->wgt_Speed->setSpeed(sample.speed);
+    mUi->wgt_Direction->setDirection(int(sample.direction));
+    mUi->gView_GyroChart->setCurAxis(sample.id);
+    if (sample.longitude != 0.0 || sample.latitude != 0.0)
+        mUi->wgt_MapView->addPoint({sample.id, sample.longitude, sample.latitude});
 }
 
-void MainWindows::onAllGpsDataParserFinished(int rowId, const QList<GpsData> &)
+void MainWindows::onAllGpsDataParserFinished(int rowId, const QList<GpsData> &dataList)
 {
-    if (isPlayingRow(rowId))
-        mUi->wgt_PlayArea->play();
+    if (!isPlayingRow(rowId) || !fillChart(rowId, dataList))
+        return;
+    mUi->wgt_PlayArea->play();
+    showTrack(rowId, dataList);
 }
 
 void MainWindows::onKeyPressEvent(QKeyEvent *event)
@@ -279,7 +279,10 @@ void MainWindows::onKeyPressEvent(QKeyEvent *event)
         event->accept();
 }
 
-void MainWindows::onFullScreenChanged(bool) {}
+void MainWindows::onFullScreenChanged(bool fullScreen)
+{
+    mUi->wgt_MapView->setWebViewVisible(!fullScreen);
+}
 
 void MainWindows::keyPressEvent(QKeyEvent *event)
 {
@@ -300,6 +303,7 @@ void MainWindows::closeEvent(QCloseEvent *event)
 {
     Configuration::GetInstance()->setMainwindowsRect(geometry());
     Configuration::GetInstance()->setMainwindowsIsMaximize(isMaximized());
+    ++mRound;
     event->accept();
 }
 
@@ -321,32 +325,10 @@ void MainWindows::installMoving()
     setSizeGripEnabled(true);
 }
 
-void MainWindows::setupPlaylistTable()
+void MainWindows::setupPlaylist()
 {
     mPlaylistModel = new PlaylistModel(this);
-    QTableView *table = mUi->tbl_PlayListView;
-    table->setModel(mPlaylistModel);
-    table->setAlternatingRowColors(true);
-    table->setGridStyle(Qt::DashDotLine);
-    table->setShowGrid(false);
-    table->setFocusPolicy(Qt::NoFocus);
-    table->setSelectionBehavior(QAbstractItemView::SelectRows);
-    table->setSelectionMode(QAbstractItemView::SingleSelection);
-    table->verticalHeader()->setVisible(false);
-    table->verticalHeader()->setDefaultSectionSize(RowHeight);
-    table->horizontalHeader()->setHighlightSections(false);
-    table->horizontalHeader()->setStretchLastSection(true);
-    // The style's minimum, the font's widest glyph, would not let the last section fit.
-    table->horizontalHeader()->setMinimumSectionSize(RowHeight);
-    for (int column = 0; column < int(std::size(ColumnWidths)); ++column)
-        table->setColumnWidth(column, ColumnWidths[column]);
-    table->setStyleSheet(QLatin1String(TableStyle));
-    table->horizontalHeader()->setStyleSheet(QLatin1String(HeaderStyle));
-    const QString scrollBarStyle = QLatin1String(ScrollBarStyle);
-    table->verticalScrollBar()->setStyleSheet(scrollBarStyle.arg(
-        QStringLiteral("vertical"), QStringLiteral("width"), QStringLiteral("height")));
-    table->horizontalScrollBar()->setStyleSheet(scrollBarStyle.arg(
-        QStringLiteral("horizontal"), QStringLiteral("height"), QStringLiteral("width")));
+    mUi->tbl_PlayListView->setPlaylist(mPlaylistModel);
 }
 
 void MainWindows::setupControlPanel()
@@ -406,6 +388,8 @@ void MainWindows::connectPlaylistAndSettings()
             &MainWindows::onAllGpsDataParserFinished);
     connect(Configuration::GetInstance(), &Configuration::updateLanguage, this,
             &MainWindows::onUpdateLanguage);
+    connect(Configuration::GetInstance(), &Configuration::mapsChanged, mUi->wgt_MapView,
+            &MapWebView::setMapType);
 }
 
 void MainWindows::restoreGeometryFromSettings()
@@ -468,4 +452,55 @@ bool MainWindows::isPlayingRow(int rowId) const
 {
     const RowData *playing = mUi->wgt_PlayArea->mainRow();
     return rowId == (playing ? playing->id : -1);
+}
+
+void MainWindows::clearGauges()
+{
+    mUi->wgt_Speed->setSpeed(0);
+    mUi->gView_GyroChart->clearAll();
+}
+
+void MainWindows::clearAndAskForTelemetry(int rowId, int round)
+{
+    clearAll();
+    if (round == mRound)
+        mPlaylistModel->updateAllGpsData(rowId);
+}
+
+/** One point for each sample, or for each second of video where there is a sample for each frame.
+ *  Events are processed after every point; returns false when playback was started anew or stopped
+ *  meanwhile. */
+bool MainWindows::fillChart(int rowId, const QList<GpsData> &samples)
+{
+    const int round = ++mRound;
+    const int durationS = mPlaylistModel->getCurPlayFileDuration(rowId);
+    const float frameRate = mPlaylistModel->getVideoframerate(rowId);
+    const bool isPerSample =
+        frameRate <= 0.0f || float(samples.size()) < float(durationS - 1) * frameRate;
+    const float step = isPerSample ? 1.0f : frameRate;
+    const int count = isPerSample ? samples.size() : durationS;
+
+    mUi->gView_GyroChart->clearAll();
+    mUi->gView_GyroChart->setAxisXRange(count);
+    for (int i = 0; i<count &&float(samples.size())> float(i) * step; ++i) {
+        const GpsData &sample = samples.at(int(float(i) * step));
+        mUi->gView_GyroChart->insertPoints({sample.gsensorX, sample.gsensorY, sample.gsensorZ});
+        QCoreApplication::processEvents();
+        if (round != mRound)
+            return false;
+    }
+    return true;
+}
+
+void MainWindows::showTrack(int rowId, const QList<GpsData> &samples)
+{
+    QVector<QVector<double>> track;
+    track.reserve(samples.size());
+    for (const GpsData &sample : samples)
+        track.append({sample.longitude, sample.latitude});
+    qDebug() << "获取某个视频的所有GPS数据，组数：" << track.size();
+    mUi->wgt_MapView->loadAllGpsData(track);
+    delete mUi->wgt_MapView->userData(GPS_USER_DATA_ID);
+    mUi->wgt_MapView->setUserData(GPS_USER_DATA_ID, new GPSUser(rowId, track));
+    qDebug() << "本地存储每个视频的GPS数据" << track.size();
 }

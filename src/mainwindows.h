@@ -12,7 +12,6 @@
 
 class PlaylistModel;
 class QKeyEvent;
-class QTableView;
 class QUrl;
 struct RowData;
 
@@ -51,6 +50,8 @@ public:
     /** Plays a row, beside its related recording if the playlist has one, once its telemetry has
      *  been delivered. Nothing for null. */
     void playByData(const RowData *row);
+    /** Empties gauge, chart and map. Playback goes on. */
+    void clearAll();
 
 public slots:
     void onUpdateLanguage();
@@ -72,6 +73,7 @@ public slots:
     void onGpsDataChanged(int rowId, const GpsData &sample);
     void onAllGpsDataParserFinished(int rowId, const QList<GpsData> &dataList);
     void onKeyPressEvent(QKeyEvent *event);
+    /** Keeps the map's window out of the picture that fills the screen. */
     void onFullScreenChanged(bool fullScreen);
 
 protected:
@@ -81,7 +83,7 @@ protected:
 
 private:
     void installMoving();
-    void setupPlaylistTable();
+    void setupPlaylist();
     void setupControlPanel();
     void disableMissingFeatures();
     void connectControlPanel();
@@ -95,8 +97,14 @@ private:
     /** Handles the keys that control playback; returns whether it was one. */
     bool controlPlayback(int key);
     bool isPlayingRow(int rowId) const;
+    void clearGauges();
+    void clearAndAskForTelemetry(int rowId, int round);
+    bool fillChart(int rowId, const QList<GpsData> &samples);
+    void showTrack(int rowId, const QList<GpsData> &samples);
 
     std::unique_ptr<Ui::MainWindows> mUi;
     PlaylistModel *mPlaylistModel = nullptr; // deleted by hand: it goes before the widgets
     QRect mUnconfirmedRect;                  // set until the window is active for the first time
+    int mRound =
+        0; // counts up with each start and stop: filling the displays for an older one ends
 };

@@ -2,9 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "commandline.h"
 #include "configuration.h"
+#include "directiontray.h"
+#include "gyrochartview.h"
 #include "mainwindows.h"
 #include "mediafile.h"
 #include "playareamanager.h"
+#include "speedtray.h"
 
 #include <QApplication>
 #include <QDropEvent>
@@ -23,6 +26,8 @@
 #include <QTest>
 #include <QTimer>
 #include <QToolButton>
+#include <QWebEnginePage>
+#include <QWebEngineView>
 
 #include <memory>
 
@@ -37,8 +42,8 @@ TelemetryBlock sampleOf(int second)
     TelemetryBlock block;
     block.time = QByteArrayLiteral("202603140926") + QByteArray::number(10 + second);
     block.latitudeRef = 'S';
-    block.latitude = "3352" + QByteArray::number(1000 + second); // 33 degrees, 52.1000 minutes on
-    block.longitude = "15112" + QByteArray::number(3000 + second);
+    block.latitude = "3352" + QByteArray::number(1000 + 50 * second); // 33 degrees, 52.1 minutes on
+    block.longitude = "15112" + QByteArray::number(3000 + 50 * second);
     block.setSpeed(40 + second);
     return block;
 }
@@ -50,9 +55,18 @@ QString dateTimeTextOf(int second)
 
 QString positionTextOf(int second)
 {
-    const double latitude = 33 + (52 + (1000 + second) / 10000.0) / 60;
-    const double longitude = 151 + (12 + (3000 + second) / 10000.0) / 60;
+    const double latitude = 33 + (52 + (1000 + 50 * second) / 10000.0) / 60;
+    const double longitude = 151 + (12 + (3000 + 50 * second) / 10000.0) / 60;
     return QStringLiteral("S%1,E%2").arg(latitude, 0, 'f', 6).arg(longitude, 0, 'f', 6);
+}
+
+/** As the page writes it: with the six decimals that it was told. */
+QString mapPositionOf(int second)
+{
+    const QString text = positionTextOf(second);
+    const double latitude = text.mid(1, 9).toDouble();
+    const double longitude = text.mid(12).toDouble();
+    return QStringLiteral("[%1,%2]").arg(longitude, 0, 'g', 9).arg(-latitude, 0, 'g', 8);
 }
 
 QString speedTextOf(int second)
@@ -92,6 +106,9 @@ private slots:
 
     void playsAPairNamedAsArguments();
     void showsTheSamplesOfTheSecond();
+    void fillsChartAndMap_data();
+    void fillsChartAndMap();
+    void samplesNotToBeShown();
     void keysAndSeeking();
     void rateVolumeAndMute();
     void fullScreenAndBack();
@@ -111,6 +128,8 @@ private:
     void pauseAt(int second);
     int second() const { return child<QSlider>("hSlider_Seek")->value(); }
     QString text(const char *label) const { return child<QLabel>(label)->text(); }
+    QVector<QPointF> chartLine(int index) const;
+    QString map(const QString &field) const;
     void click(const char *button) const
     {
         QTest::mouseClick(child<QWidget>(button), Qt::LeftButton);
@@ -200,7 +219,101 @@ void tst_Program::showsTheSamplesOfTheSecond()
         QTRY_COMPARE(text("lbl_GpsDateTime"), dateTimeTextOf(second));
         QCOMPARE(text("lbl_LongitudeAndLatitude"), positionTextOf(second));
         QCOMPARE(text("pBtn_SP"), speedTextOf(second));
+        QCOMPARE(child<SpeedTray>("wgt_Speed")->shownSpeed(), 40 + second);
+        // As far in latitude as in longitude, of which a degree is cos(33.87 degrees) as long; and
+        // mirrored into the north, as all directions are: atan(0.830) is 39.7 degrees.
+        const auto *compass = static_cast<DirectionTray *>(child<QWidget>("wgt_Direction"));
+        QCOMPARE(compass->headingDeg(), 39);
+        QCOMPARE(chartLine(3).value(0).x(), double(second));
+        QTRY_COMPARE(map("position"), mapPositionOf(second));
     }
+}
+
+/** The points of a line of the chart; 3 is the cursor. */
+QVector<QPointF> tst_Program::chartLine(int index) const
+{
+    const auto series = child<GyroChartView>("gView_GyroChart")->chart()->series();
+    return static_cast<QtCharts::QLineSeries *>(series.at(index))->pointsVector();
+}
+
+/** What the page says of itself. */
+QString tst_Program::map(const QString &field) const
+{
+    QString answer;
+    QEventLoop loop; // the test's own waiting leaves the web engine too little time
+    QTimer::singleShot(5000, &loop, &QEventLoop::quit);
+    const QString question = QStringLiteral("JSON.stringify(talvorMap.state().%1)").arg(field);
+    mWindow->findChild<QWebEngineView *>()->page()->runJavaScript(question, [&](const QVariant &v) {
+        answer = v.toString();
+        loop.quit();
+    });
+    loop.exec();
+    return answer;
+}
+
+void tst_Program::fillsChartAndMap_data()
+{
+    QTest::addColumn<int>("samples");
+    QTest::addColumn<int>("points");
+    QTest::addColumn<int>("samplesPerPoint");
+    // The recording has 20 seconds of 30 frames: 570 samples are enough for one each second.
+    QTest::newRow("a sample a frame") << 600 << 20 << 30;
+    QTest::newRow("the last second is missing") << 570 << 19 << 30;
+    QTest::newRow("too few for the frames") << 569 << 569 << 1;
+    QTest::newRow("a sample a second") << 20 << 20 << 1;
+    QTest::newRow("none") << 0 << 0 << 1;
+}
+
+void tst_Program::fillsChartAndMap()
+{
+    QFETCH(int, samples);
+    QFETCH(int, points);
+    QFETCH(int, samplesPerPoint);
+    playPair();
+    QList<GpsData> list;
+    for (int i = 0; i < samples; ++i) {
+        GpsData sample;
+        sample.latitude = 48 + 0.001 * i;
+        sample.longitude = i % 10 == 9 ? 11.0 : 11.001; // not straight
+        sample.gsensorX = float(i) / 1000;
+        list.append(sample);
+    }
+    mWindow->onAllGpsDataParserFinished(0, list);
+    const QVector<QPointF> line = chartLine(0);
+    QCOMPARE(line.size(), points);
+    for (int i = 0; i < points; ++i)
+        QCOMPARE(line.at(i), QPointF(i, double(float(i * samplesPerPoint) / 1000)));
+    QTRY_COMPARE(map("routePoints"), QString::number(samples > 0 ? samples : PairSeconds));
+}
+
+/** Samples of a recording that is not played, without a fix, and after the end. */
+void tst_Program::samplesNotToBeShown()
+{
+    playPair();
+    pauseAt(7);
+    QTRY_COMPARE(map("position"), mapPositionOf(7));
+    GpsData sample;
+    sample.id = 11;
+    sample.speed = 111;
+    const auto *gauge = child<SpeedTray>("wgt_Speed");
+    mWindow->onGpsDataChanged(1, sample);
+    mWindow->onAllGpsDataParserFinished(1, {sample});
+    QCOMPARE(gauge->shownSpeed(), 47);
+    QCOMPARE(chartLine(0).size(), PairSeconds);
+    QCOMPARE(area()->state(), QMediaPlayer::PausedState);
+
+    mWindow->onGpsDataChanged(0, sample); // no fix
+    QCOMPARE(gauge->shownSpeed(), 111);
+    QCOMPARE(chartLine(3).value(0).x(), 11.0);
+    QCOMPARE(map("position"), mapPositionOf(7));
+
+    click("btn_Stop");
+    mWindow->onGpsDataChanged(0, sample);
+    QCOMPARE(gauge->shownSpeed(), 0);
+    for (int line = 0; line < 4; ++line)
+        QVERIFY(chartLine(line).isEmpty());
+    QTRY_COMPARE(map("routePoints"), QString("0"));
+    QCOMPARE(map("position"), QString("null"));
 }
 
 void tst_Program::keysAndSeeking()

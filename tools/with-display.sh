@@ -48,6 +48,9 @@ manager=$!
 wait_for 20 sh -c 'xprop -root _NET_SUPPORTING_WM_CHECK | grep -q "window id"' ||
     { echo "with-display: the window manager did not start:" >&2; cat "$work/manager.log" >&2; exit 1; }
 
+# The web engine's sandbox refuses to run for root.
+[ "$(id -u)" -ne 0 ] || export QTWEBENGINE_DISABLE_SANDBOX=1
+
 status=0
 "$@" || status=$?
 exit $status

@@ -91,12 +91,12 @@
     window.standIn = {
         answer: () => callback.split('.').reduce((object, name) => object[name], window)(),
         refuseKey: () => window.alert('APP不存在，AK有误请检查再重试'),
-        /** Points of each line, and the image and place of each mark. */
+        /** How many points each line has, and the image of each mark. */
         report: () => ({
-            lines: [...overlays].filter((overlay) => overlay.path)
-                .map((line) => line.path.map(({ lng, lat }) => [lng, lat])),
+            lengths: [...overlays].filter((overlay) => overlay.path)
+                .map((line) => line.path.length).sort(),
             marks: [...overlays].filter((overlay) => overlay.isShown)
-                .map(({ icon, position: { lng, lat } }) => [icon.url, lng, lat]),
+                .map((mark) => mark.icon.url).sort(),
         }),
     };
 })();

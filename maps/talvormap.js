@@ -1,0 +1,575 @@
+// SPDX-FileCopyrightText: 2026 Quellfern
+// SPDX-License-Identifier: GPL-3.0-or-later
+'use strict';
+
+/**
+ * What all map pages share. The program knows four global functions, defined at the end; each page
+ * adds one provider, the object that a provider's script hands to talvorMap.use():
+ *
+ * - scriptUrl(key, language): the provider's own script, which calls talvorMap.providerReady();
+ *   absent if the page has loaded it
+ * - key, name: which key of talvorMapKeys it needs, and what users call it; absent likewise
+ * - create(element): makes the map, showing something
+ * - point(lng, lat): a WGS-84 position as the provider's object, shifted to the provider's datum,
+ *   with the fields lng and lat
+ * - drawLine(name, segments), drawMark(name, point): replace what LINES and MARKS name; no segments
+ *   and null remove it
+ * - centre(point, zoom), panTo(point), fit(southWest, northEast, padding): move the view
+ * - bounds(): {west, south, east, north} of the view, or null if it is not known yet
+ * - resized(): the window has another size; absent if the provider sees to that
+ */
+window.talvorMap = (() => {
+    const PROVIDER_TIMEOUT_MS = 10000;
+    const HANDS_OFF_MS = 5000;
+    const CITY_ZOOM = 12;
+    const STREET_ZOOM = 15;
+    // The program asks for the sample of the played second every 0.8 seconds, at double speed too.
+    // A larger step is a jump.
+    const LARGEST_STEP = 5;
+    // About 400 m: a parked car is shown with the streets around it.
+    const SMALLEST_SPAN_DEG = 0.004;
+    // Below this the view is parked out of sight.
+    const SMALLEST_VIEW_PX = 60;
+    // Room for marks and controls around the whole route, and less where a point counts as in view.
+    const FIT_PADDING_PX = { top: 16, right: 18, bottom: 28, left: 40 };
+    const EDGE_PX = 12;
+
+    /** In drawing order. The casing keeps the route visible on light and on dark ground. */
+    const LINES = {
+        casing: { color: 'rgb(255, 255, 255)', width: 7, opacity: 0.9 },
+        route: { color: 'rgb(85, 88, 100)', width: 4, opacity: 1 },
+        driven: { color: 'rgb(38, 153, 238)', width: 4, opacity: 1 },
+    };
+    const MARKS = {
+        start: { image: 'start.svg', size: 16 },
+        end: { image: 'end.svg', size: 16 },
+        position: { image: 'position.svg', size: 22 },
+    };
+
+    const TEXTS = {
+        en: {
+            keyMissing: '{map} needs a key of your own.',
+            keyRefused: '{map} does not accept the key.',
+            noAnswer: '{map} cannot be loaded: the service is out of reach or no longer supports '
+                + 'this program.',
+            keyHint: 'The key belongs in the file keys.js in the program’s maps folder.',
+            filesMissing: 'The map cannot be shown because files of the program are missing.',
+            zoomIn: 'Zoom in',
+            zoomOut: 'Zoom out',
+        },
+        zh: {
+            google: 'Google 地图',
+            baidu: '百度地图',
+            keyMissing: '{map}需要您自己的密钥。',
+            keyRefused: '{map}不接受该密钥。',
+            noAnswer: '{map}无法加载：无法连接到服务，或服务已不再支持本程序。',
+            keyHint: '密钥请填写在程序 maps 文件夹的 keys.js 文件中。',
+            filesMissing: '程序文件不完整，无法显示地图。',
+            zoomIn: '放大',
+            zoomOut: '缩小',
+        },
+        'zh-TW': {
+            google: 'Google 地圖',
+            baidu: '百度地圖',
+            keyMissing: '{map}需要您自己的金鑰。',
+            keyRefused: '{map}不接受此金鑰。',
+            noAnswer: '{map}無法載入：無法連線到服務，或服務已不再支援本程式。',
+            keyHint: '金鑰請填寫在程式 maps 資料夾的 keys.js 檔案中。',
+            filesMissing: '程式檔案不完整，無法顯示地圖。',
+            zoomIn: '放大',
+            zoomOut: '縮小',
+        },
+        fr: {
+            keyMissing: '{map} nécessite une clé personnelle.',
+            keyRefused: '{map} refuse la clé.',
+            noAnswer: 'Impossible de charger {map}\u00a0: le service est injoignable ou ne '
+                + 'prend plus en charge ce programme.',
+            keyHint: 'La clé s’inscrit dans le fichier keys.js du dossier maps du programme.',
+            filesMissing: 'Impossible d’afficher la carte\u00a0: des fichiers du programme sont '
+                + 'manquants.',
+            zoomIn: 'Zoom avant',
+            zoomOut: 'Zoom arrière',
+        },
+        it: {
+            keyMissing: 'Per {map} serve una chiave personale.',
+            keyRefused: '{map} non accetta la chiave.',
+            noAnswer: 'Impossibile caricare {map}: il servizio non è raggiungibile o non '
+                + 'supporta più questo programma.',
+            keyHint: 'La chiave va inserita nel file keys.js nella cartella maps del programma.',
+            filesMissing: 'Impossibile mostrare la mappa: mancano alcuni file del programma.',
+            zoomIn: 'Ingrandisci',
+            zoomOut: 'Riduci',
+        },
+        ja: {
+            google: 'Google マップ',
+            baidu: '百度地図',
+            keyMissing: '{map}を使うには、ご自身のキーが必要です。',
+            keyRefused: '{map}がこのキーを受け付けません。',
+            noAnswer: 'サービスに接続できないか、このプログラムがサポート対象外になったため、{map}を読み込めません。',
+            keyHint: 'キーはプログラムの maps フォルダーにある keys.js ファイルに入力します。',
+            filesMissing: 'プログラムのファイルが不足しているため、地図を表示できません。',
+            zoomIn: '拡大',
+            zoomOut: '縮小',
+        },
+        pl: {
+            keyMissing: 'Aby korzystać z {map}, potrzebny jest własny klucz.',
+            keyRefused: 'Usługa {map} nie przyjmuje klucza.',
+            noAnswer: 'Nie można wczytać {map}: usługa jest nieosiągalna lub nie obsługuje już '
+                + 'tego programu.',
+            keyHint: 'Klucz należy wpisać do pliku keys.js w folderze maps programu.',
+            filesMissing: 'Nie można wyświetlić mapy: brakuje plików programu.',
+            zoomIn: 'Powiększ',
+            zoomOut: 'Pomniejsz',
+        },
+        ru: {
+            keyMissing: 'Для {map} нужен собственный ключ.',
+            keyRefused: 'Сервис {map} не принимает ключ.',
+            noAnswer: 'Не удалось загрузить {map}: сервис недоступен или больше не '
+                + 'поддерживает эту программу.',
+            keyHint: 'Ключ указывается в файле keys.js в папке maps программы.',
+            filesMissing: 'Не удалось показать карту: не хватает файлов программы.',
+            zoomIn: 'Приблизить',
+            zoomOut: 'Отдалить',
+        },
+        de: {
+            keyMissing: 'Für {map} wird ein eigener Schlüssel benötigt.',
+            keyRefused: '{map} nimmt den Schlüssel nicht an.',
+            noAnswer: '{map} lässt sich nicht laden: Der Dienst ist nicht erreichbar oder '
+                + 'unterstützt dieses Programm nicht mehr.',
+            keyHint: 'Der Schlüssel gehört in die Datei keys.js im Ordner maps des Programms.',
+            filesMissing: 'Die Karte kann nicht angezeigt werden, weil Dateien des Programms '
+                + 'fehlen.',
+            zoomIn: 'Vergrößern',
+            zoomOut: 'Verkleinern',
+        },
+        es: {
+            keyMissing: '{map} necesita una clave propia.',
+            keyRefused: '{map} no acepta la clave.',
+            noAnswer: 'No se puede cargar {map}: el servicio no está disponible o ya no es '
+                + 'compatible con este programa.',
+            keyHint: 'La clave se introduce en el archivo keys.js de la carpeta maps del '
+                + 'programa.',
+            filesMissing: 'No se puede mostrar el mapa: faltan archivos del programa.',
+            zoomIn: 'Acercar',
+            zoomOut: 'Alejar',
+        },
+        pt: {
+            keyMissing: 'O {map} requer uma chave própria.',
+            keyRefused: 'O {map} não aceita a chave.',
+            noAnswer: 'Não foi possível carregar o {map}: o serviço está inacessível ou já não '
+                + 'suporta este programa.',
+            keyHint: 'A chave deve ser introduzida no ficheiro keys.js da pasta maps do '
+                + 'programa.',
+            filesMissing: 'Não é possível mostrar o mapa: faltam ficheiros do programa.',
+            zoomIn: 'Ampliar',
+            zoomOut: 'Reduzir',
+        },
+        ko: {
+            google: 'Google 지도',
+            baidu: '바이두 지도',
+            keyMissing: '{map}를 사용하려면 본인의 키가 필요합니다.',
+            keyRefused: '{map}가 이 키를 거부했습니다.',
+            noAnswer: '서비스에 연결할 수 없거나 이 프로그램이 더 이상 지원되지 않아 {map}를 불러올 수 없습니다.',
+            keyHint: '키는 프로그램의 maps 폴더에 있는 keys.js 파일에 입력합니다.',
+            filesMissing: '프로그램 파일이 없어 지도를 표시할 수 없습니다.',
+            zoomIn: '확대',
+            zoomOut: '축소',
+        },
+    };
+    TEXTS['zh-HK'] = TEXTS['zh-TW'];
+
+    const GCJ_RADIUS_M = 6378245.0;
+    const GCJ_ECCENTRICITY_SQUARED = 0.00669342162296594323;
+    const BD_TURN = Math.PI * 3000 / 180;
+
+    /**
+     * Mainland China, as longitude and latitude in turn: within about 50 km along empty land
+     * borders, within one at border towns. A plain rectangle would shift Korea, half of Japan and
+     * northern India as well. Hong Kong, Macau and Taiwan are outside.
+     */
+    const MAINLAND_OUTLINE = [
+        135.1, 48.4, 134.55, 47.95, 134.75, 47.7, 134, 46.6, 133.15, 45.1, 131.9, 45.3, 131, 44.85,
+        131.25, 44.4, 131.25, 43.5, 130.6, 42.42, 130.3, 42.9, 129.85, 42.97, 129.65, 42.4,
+        128.1, 42, 128.1, 41.38, 126.9, 41.78, 126.2, 41.08, 125, 40.5, 124.37, 40.09, 124.1, 39.7,
+        122.5, 38.5, 123.2, 37.4, 121, 35.5, 123.3, 31, 122.5, 28.5, 121, 26.8, 120.1, 25.5,
+        118.7, 24.55, 118.4, 24.56, 118.2, 24.52, 118.19, 24.38, 117.5, 23.3, 115.5, 22.3,
+        114.7, 22.4, 114.5, 22.47, 114.45, 22.57, 114.22, 22.55, 114.15, 22.54, 114.08, 22.512,
+        114.03, 22.5, 113.95, 22.47, 113.85, 22.4, 113.7, 22.2, 113.57, 22.215, 113.545, 22.214,
+        113.53, 22.185, 113.54, 22.1, 113.7, 21.8, 111.5, 20.9, 111.3, 19.5, 109.5, 17.8,
+        108.3, 18.5, 108.3, 20.5, 107.97, 21.53, 106.7, 21.97, 106.6, 22.35, 106.8, 22.8,
+        105.85, 22.93, 105.3, 23.35, 104.85, 22.9, 104, 22.51, 103, 22.5, 102.15, 22.4, 101.6, 22.3,
+        101.8, 21.2, 101.15, 21.5, 100.2, 21.45, 99.2, 22.1, 99.5, 22.95, 98.85, 23.3, 98.85, 24.1,
+        97.95, 24.02, 97.75, 23.95, 97.55, 24.7, 98.2, 25.6, 98.7, 26, 98.7, 27.3, 97.7, 28.5,
+        97.35, 28.25, 96.2, 28.4, 96, 29.3, 94.6, 29.3, 93.3, 28.65, 92.1, 27.8, 91.6, 27.9,
+        90, 28.3, 88.95, 27.3, 88.8, 28, 86.9, 28, 85.97, 27.96, 85.2, 28.3, 84.2, 28.9, 83.2, 29.5,
+        81.9, 30.4, 81.2, 30.05, 79, 31.2, 78.75, 32.6, 79.2, 32.6, 78.9, 34.2, 78, 35.5,
+        76.2, 35.8, 75, 37.2, 74.8, 38.4, 73.8, 38.6, 73.6, 39.45, 75.2, 40.4, 76.6, 40.5,
+        78.2, 41.2, 80.2, 42.1, 80.7, 43.15, 80.35, 44.2, 79.95, 44.85, 82.5, 45.2, 82.4, 45.6,
+        83, 47.2, 85.5, 47.1, 85.7, 48.3, 87.3, 49.15, 88, 48.5, 90, 47.9, 91, 46.6, 90.8, 45.3,
+        93.5, 44.95, 95.4, 44.3, 96.3, 42.75, 99.5, 42.6, 101.8, 42.5, 105, 41.6, 107.5, 42.4,
+        109.5, 42.45, 111.9, 43.72, 111.6, 44.3, 112, 45.05, 113.6, 44.75, 114.5, 45.4, 115.7, 45.5,
+        116.2, 46.3, 119.8, 46.7, 118.5, 48, 117.4, 47.65, 115.6, 47.9, 116.7, 49.82, 117.4, 49.63,
+        119.2, 50.1, 120.7, 52, 120.1, 52.7, 121, 53.3, 123.5, 53.55, 125.7, 53, 127.5, 50.27,
+        127.6, 49.8, 129.5, 49.4, 130.6, 48.9, 131, 47.7, 132.5, 47.75, 133.1, 48.1, 134.6, 48.4,
+    ];
+
+    function isInMainland(lng, lat) {
+        let inside = false;
+        let fromLng = MAINLAND_OUTLINE[MAINLAND_OUTLINE.length - 2];
+        let fromLat = MAINLAND_OUTLINE[MAINLAND_OUTLINE.length - 1];
+        for (let i = 0; i < MAINLAND_OUTLINE.length; i += 2) {
+            const toLng = MAINLAND_OUTLINE[i];
+            const toLat = MAINLAND_OUTLINE[i + 1];
+            const crosses = (toLat > lat) !== (fromLat > lat)
+                && lng < fromLng + (toLng - fromLng) * (lat - fromLat) / (toLat - fromLat);
+            inside = inside !== crosses;
+            fromLng = toLng;
+            fromLat = toLat;
+        }
+        return inside;
+    }
+
+    function waves(x, ...amplitudesAndPeriods) {
+        return amplitudesAndPeriods.reduce(
+            (sum, [amplitude, period]) => sum + amplitude * Math.sin(Math.PI * x / period), 0)
+            * 2 / 3;
+    }
+
+    /** WGS-84 to the datum of maps of mainland China, as [lng, lat]; elsewhere the two agree. */
+    function wgsToGcj(lng, lat) {
+        if (!isInMainland(lng, lat))
+            return [lng, lat];
+        const x = lng - 105;
+        const y = lat - 35;
+        const common = waves(x, [20, 1 / 6], [20, 1 / 2]);
+        const root = Math.sqrt(Math.abs(x));
+        const east = 300 + x + 2 * y + 0.1 * x * x + 0.1 * x * y + 0.1 * root + common
+            + waves(x, [20, 1], [40, 3], [150, 12], [300, 30]);
+        const north = -100 + 2 * x + 3 * y + 0.2 * y * y + 0.1 * x * y + 0.2 * root + common
+            + waves(y, [20, 1], [40, 3], [160, 12], [320, 30]);
+        const latRad = lat * Math.PI / 180;
+        const w = Math.sqrt(1 - GCJ_ECCENTRICITY_SQUARED * Math.sin(latRad) ** 2);
+        const alongParallel = GCJ_RADIUS_M / w * Math.cos(latRad);
+        const alongMeridian = GCJ_RADIUS_M * (1 - GCJ_ECCENTRICITY_SQUARED) / w ** 3;
+        return [
+            lng + east / alongParallel * 180 / Math.PI,
+            lat + north / alongMeridian * 180 / Math.PI,
+        ];
+    }
+
+    /** The further step to Baidu's own datum, as [lng, lat]. */
+    function gcjToBd(lng, lat) {
+        const radius = Math.hypot(lng, lat) + 0.00002 * Math.sin(lat * BD_TURN);
+        const angle = Math.atan2(lat, lng) + 0.000003 * Math.cos(lng * BD_TURN);
+        return [radius * Math.cos(angle) + 0.0065, radius * Math.sin(angle) + 0.006];
+    }
+
+    const language = document.documentElement.lang || navigator.language;
+    document.documentElement.lang = language;
+    const texts = TEXTS[language] || TEXTS[language.split('-')[0]] || TEXTS.en;
+    const mapElement = document.getElementById('map');
+    const messageElement = document.getElementById('message');
+
+    let adapter = null;  // the page's provider
+    let provider = null; // the same once it is ready
+    let held = [];       // calls that wait for it
+    let timeout = 0;
+
+    // A point is the provider's object, or null where a sample has no fix.
+    let incoming = []; // the part of a route that has arrived
+    let route = [];    // a complete route
+    let live = [];     // {id, point} of the samples played, ids ascending
+    let position = null;
+
+    const stale = new Set(); // what the next frame draws again
+    let frameRequest = 0;
+    // Where the next frame moves the view, in this order; a call drops the wishes it overrules.
+    let wantedCentre = null;
+    let wantsFit = false;
+    let wantsFollow = false;
+    let isPlaced = false; // whether the view has gone to the present drive
+    let lastTouchMs = -Infinity;
+
+    const shown = { routeSegments: [], drivenSegments: [], position: null, frames: 0, fits: 0 };
+
+    /** A cut line: a new segment begins after null, and across the 180th meridian. */
+    function segmentsOf(points) {
+        const segments = [];
+        let last = null;
+        for (const point of points) {
+            if (point && last && Math.abs(point.lng - last.lng) < 180)
+                segments[segments.length - 1].push(point);
+            else if (point)
+                segments.push([point]);
+            last = point;
+        }
+        return segments;
+    }
+
+    /** The corners of the segments as [west, south, east, north], or null without segments. */
+    function boundsOf(segments) {
+        if (segments.length === 0)
+            return null;
+        const bounds = [Infinity, Infinity, -Infinity, -Infinity];
+        for (const segment of segments) {
+            for (const { lng, lat } of segment) {
+                bounds[0] = Math.min(bounds[0], lng);
+                bounds[1] = Math.min(bounds[1], lat);
+                bounds[2] = Math.max(bounds[2], lng);
+                bounds[3] = Math.max(bounds[3], lat);
+            }
+        }
+        return bounds;
+    }
+
+    /** The point to draw for a sample, null if the sample has no fix or nonsense for one. */
+    function fixAt(lng, lat) {
+        const isFix = Math.abs(lng) <= 180 && Math.abs(lat) <= 90 && (lng !== 0 || lat !== 0);
+        return isFix ? provider.point(lng, lat) : null;
+    }
+
+    function isSamePoint(a, b) {
+        return a === b || Boolean(a && b && a.lng === b.lng && a.lat === b.lat);
+    }
+
+    /** The route up to the last sample if that sample lies on it, else the samples themselves. */
+    function drivenPoints() {
+        const last = live[live.length - 1];
+        if (last && last.id in route && isSamePoint(route[last.id], last.point))
+            return route.slice(0, last.id + 1);
+        return live.map((sample) => sample.point);
+    }
+
+    function refresh(...parts) {
+        parts.forEach((part) => stale.add(part));
+        if (!frameRequest)
+            frameRequest = requestAnimationFrame(redraw);
+    }
+
+    function redraw() {
+        frameRequest = 0;
+        shown.frames += 1;
+        // The view first: lines are projected once, for the view in which they are seen.
+        if (stale.has('size') && provider.resized)
+            provider.resized();
+        if (stale.has('route'))
+            shown.routeSegments = segmentsOf(route);
+        placeView();
+        if (stale.has('route'))
+            drawRoute();
+        if (stale.has('driven'))
+            drawDriven();
+        stale.clear();
+    }
+
+    function drawRoute() {
+        const segments = shown.routeSegments;
+        provider.drawLine('casing', segments);
+        provider.drawLine('route', segments);
+        const last = segments[segments.length - 1];
+        provider.drawMark('start', last ? segments[0][0] : null);
+        provider.drawMark('end', last ? last[last.length - 1] : null);
+    }
+
+    function drawDriven() {
+        shown.drivenSegments = segmentsOf(drivenPoints());
+        shown.position = position;
+        provider.drawLine('driven', shown.drivenSegments);
+        provider.drawMark('position', position);
+    }
+
+    function placeView() {
+        if (wantedCentre)
+            provider.centre(wantedCentre, CITY_ZOOM);
+        wantedCentre = null;
+        const { clientWidth, clientHeight } = mapElement;
+        if (wantsFit && Math.min(clientWidth, clientHeight) >= SMALLEST_VIEW_PX)
+            fitRoute();
+        if (wantsFollow)
+            follow();
+        wantsFollow = false;
+    }
+
+    function fitRoute() {
+        const [west, south, east, north] = boundsOf(shown.routeSegments);
+        const growLng = Math.max(0, SMALLEST_SPAN_DEG - (east - west)) / 2;
+        const growLat = Math.max(0, SMALLEST_SPAN_DEG - (north - south)) / 2;
+        provider.fit({ lng: west - growLng, lat: south - growLat },
+            { lng: east + growLng, lat: north + growLat }, FIT_PADDING_PX);
+        shown.fits += 1;
+        wantsFit = false;
+    }
+
+    /** Users who move the map to look around have some seconds for it. */
+    function follow() {
+        if (!isPlaced)
+            provider.centre(position, STREET_ZOOM);
+        else if (!isInView(position) && performance.now() - lastTouchMs > HANDS_OFF_MS)
+            provider.panTo(position);
+        isPlaced = true;
+    }
+
+    function isInView({ lng, lat }) {
+        const view = provider.bounds();
+        if (!view)
+            return false;
+        const isWithin = (share, lengthPx) => share * lengthPx > EDGE_PX
+            && (1 - share) * lengthPx > EDGE_PX;
+        return isWithin((lng - view.west) / (view.east - view.west), mapElement.clientWidth)
+            && isWithin((lat - view.south) / (view.north - view.south), mapElement.clientHeight);
+    }
+
+    function showMapCenter(lng, lat) {
+        wantedCentre = provider.point(lng, lat);
+        wantsFit = false;
+        wantsFollow = false;
+        refresh();
+    }
+
+    function mapAddPoint(lng, lat, id) {
+        // After a jump back, only what lies before is driven.
+        while (live.length > 0 && live[live.length - 1].id >= id)
+            live.pop();
+        const last = live[live.length - 1];
+        if (last && id - last.id > LARGEST_STEP)
+            live.push({ id: last.id, point: null });
+        const point = fixAt(lng, lat);
+        live.push({ id, point });
+        if (point) {
+            position = point;
+            wantsFollow = true;
+        }
+        refresh('driven');
+    }
+
+    function loadAllGpsDataOfVideo(lng, lat, index, count) {
+        if (index === 0) {
+            incoming = [];
+            setRoute([]);
+        }
+        if (index !== incoming.length)
+            return; // The beginning of this route was sent to an earlier page.
+        incoming.push(fixAt(lng, lat));
+        if (incoming.length === count) {
+            setRoute(incoming);
+            incoming = [];
+        }
+    }
+
+    function setRoute(points) {
+        route = points;
+        wantsFit = points.some(Boolean);
+        isPlaced = isPlaced || wantsFit;
+        refresh('route', 'driven');
+    }
+
+    function mapClearAll() {
+        held = held.filter((call) => call.run === showMapCenter);
+        incoming = [];
+        live = [];
+        position = null;
+        isPlaced = false;
+        wantsFollow = false;
+        if (provider)
+            setRoute([]);
+    }
+
+    /** Holds calls back until the provider is ready. */
+    function whenReady(run) {
+        return (...args) => {
+            if (provider)
+                run(...args);
+            else
+                held.push({ run, args });
+        };
+    }
+
+    /** Shows a text about the provider instead of the map. */
+    function fail(textName) {
+        clearTimeout(timeout);
+        const sentence = texts[textName].replace('{map}', texts[adapter.key] || adapter.name);
+        messageElement.textContent = adapter.key ? sentence + '\n\n' + texts.keyHint : sentence;
+        messageElement.hidden = false;
+    }
+
+    /** Makes the map and carries out the calls that were held back; late is better than never. */
+    function providerReady() {
+        clearTimeout(timeout);
+        try {
+            adapter.create(mapElement);
+        } catch (error) {
+            console.error(error);
+            fail(adapter.scriptUrl ? 'noAnswer' : 'filesMissing');
+            return;
+        }
+        provider = adapter;
+        messageElement.hidden = true;
+        held.forEach(({ run, args }) => run(...args));
+        held = [];
+    }
+
+    function loadProvider() {
+        const script = document.createElement('script');
+        script.src = adapter.scriptUrl(encodeURIComponent(keyOf(adapter)), language);
+        script.onerror = () => fail('noAnswer');
+        timeout = setTimeout(fail, PROVIDER_TIMEOUT_MS, 'noAnswer');
+        document.head.append(script);
+    }
+
+    function keyOf({ key }) {
+        const keys = window.talvorMapKeys || {}; // Users may have broken or removed the file.
+        return (keys[key] || '').trim();
+    }
+
+    function use(pageAdapter) {
+        adapter = pageAdapter;
+        if (!adapter.scriptUrl)
+            providerReady();
+        else if (!keyOf(adapter))
+            fail('keyMissing');
+        else // A server that never answers must not keep the page from counting as loaded.
+            window.addEventListener('load', () => setTimeout(loadProvider));
+    }
+
+    /** What the page shows, in the provider's datum. */
+    function state() {
+        const count = (segments) => segments.reduce((sum, segment) => sum + segment.length, 0);
+        const { routeSegments, drivenSegments } = shown;
+        return {
+            message: messageElement.hidden ? '' : messageElement.textContent,
+            held: held.length,
+            frames: shown.frames,
+            fits: shown.fits,
+            routePoints: count(routeSegments),
+            routeSegments: routeSegments.length,
+            routeBounds: boundsOf(routeSegments),
+            drivenPoints: count(drivenSegments),
+            drivenSegments: drivenSegments.length,
+            drivenBounds: boundsOf(drivenSegments),
+            position: shown.position && [shown.position.lng, shown.position.lat],
+            view: provider && provider.bounds(),
+        };
+    }
+
+    window.showMapCenter = whenReady(showMapCenter);
+    window.mapAddPoint = whenReady(mapAddPoint);
+    window.loadAllGpsDataOfVideo = whenReady(loadAllGpsDataOfVideo);
+    window.mapClearAll = mapClearAll;
+    window.addEventListener('resize', () => provider && refresh('size'));
+    for (const event of ['pointerdown', 'pointerup', 'wheel']) {
+        mapElement.addEventListener(event, () => { lastTouchMs = performance.now(); },
+            { capture: true, passive: true });
+    }
+
+    return {
+        LINES,
+        MARKS,
+        texts,
+        wgsToGcj,
+        gcjToBd,
+        use,
+        providerReady,
+        fail,
+        state,
+    };
+})();

@@ -1,0 +1,61 @@
+// SPDX-FileCopyrightText: 2026 Quellfern
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "directiontray.h"
+
+#include <QPainter>
+
+#include "gaugeface.h"
+
+namespace {
+
+// The needle, as parts of the rose's side.
+constexpr float NeedleHalfLength = 0.24F;
+constexpr double NeedleWidth = 0.06;
+
+constexpr qreal HubRadius = 4; // in pixels, at every size
+const QColor HubColor(120, 120, 120);
+
+} // namespace
+
+DirectionTray::DirectionTray(QWidget *parent)
+    : QWidget(parent), pixmap(QStringLiteral(":/image/direction.png"))
+{}
+
+void DirectionTray::setDirection(int headingDeg)
+{
+    direction = headingDeg;
+    update();
+}
+
+void DirectionTray::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    drawGaugeFace(painter, gaugeSquare(size()), pixmap);
+    drawNeedle(painter);
+}
+
+void DirectionTray::drawNeedle(QPainter &painter) const
+{
+    const int side = gaugeSquare(size()).width();
+    const qreal base = NeedleWidth * side * 0.5;
+    const qreal length = NeedleHalfLength * side;
+    const QPointF front(0, -length);
+    const QPointF back(0, length);
+    const struct
+    {
+        QPointF edge;
+        QPointF tip;
+        QColor color;
+    } quarters[] = {
+        {{-base, 0}, front, Qt::darkRed},
+        {{base, 0}, front, QColor(78, 18, 18)},
+        {{-base, 0}, back, QColor(240, 240, 240)},
+        {{base, 0}, back, QColor(190, 190, 190)},
+    };
+
+    turnGaugeNeedle(painter, size(), direction);
+    for (const auto &quarter : quarters)
+        drawNeedlePart(painter, quarter.color, {{{0, 0}, quarter.edge, quarter.tip, quarter.tip}});
+    drawNeedleHub(painter, HubColor, HubRadius);
+}

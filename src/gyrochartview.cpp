@@ -1,0 +1,191 @@
+// SPDX-FileCopyrightText: 2026 Quellfern
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "gyrochartview.h"
+
+#include <QtCharts/QChart>
+#include <QtCharts/QLegend>
+
+#include <QGraphicsLayout>
+#include <QSignalBlocker>
+
+#include <algorithm>
+#include <cmath>
+
+using namespace QtCharts;
+
+namespace {
+
+constexpr int WindowSize = 6000;
+constexpr int FirstYRange = 2;
+constexpr int YRangeStep = 2;
+constexpr int YTickCount = 5;
+constexpr qreal CursorWidth = 3.0;
+constexpr int LegendFontPixels = 10;
+constexpr int LabelFontPixels = 12;
+constexpr int LayoutPeriodMs = 40;
+
+QFont pixelFont(int pixelSize)
+{
+    QFont font(QStringLiteral("Calibri"));
+    font.setPixelSize(pixelSize);
+    return font;
+}
+
+// Not announced: the chart would lay out the whole line again for every point.
+void appendQuietly(QLineSeries *series, qreal x, qreal y)
+{
+    const QSignalBlocker blocker(series);
+    series->append(x, y);
+}
+
+void removeFirstQuietly(QLineSeries *series)
+{
+    const QSignalBlocker blocker(series);
+    series->remove(0);
+}
+
+} // namespace
+
+GyroChartView::GyroChartView(QWidget *parent) : QChartView(parent)
+{
+    setChart(new QChart);
+    setupSeries();
+    setupAxes();
+    setupLook();
+    mLayoutTimer.setSingleShot(true);
+    mLayoutTimer.setInterval(LayoutPeriodMs);
+    connect(&mLayoutTimer, &QTimer::timeout, this, &GyroChartView::layOutIfStale);
+}
+
+void GyroChartView::insertPoints(const GyroData &sample)
+{
+    const bool isFull = pointCount > WindowSize;
+    const struct
+    {
+        QLineSeries *series;
+        float value;
+    } lines[] = {{seriesX, sample.x}, {seriesY, sample.y}, {seriesZ, sample.z}};
+    for (const auto &line : lines) {
+        if (isFull)
+            removeFirstQuietly(line.series);
+        appendQuietly(line.series, nextX, qreal(line.value));
+    }
+    ++nextX;
+    mFollowsLast = mFollowsLast || isFull;
+    growYRange(sample);
+    ++pointCount;
+    requestLayout();
+}
+
+void GyroChartView::setAxisXRange(int count)
+{
+    mFollowsLast = false;
+    mAxisX->setRange(0, count - 1);
+}
+
+void GyroChartView::setCurAxis(int x)
+{
+    seriesCursor->replace(QVector<QPointF>{QPointF(x, -yRange), QPointF(x, yRange)});
+}
+
+void GyroChartView::clearAll()
+{
+    mIsStale = false;
+    mFollowsLast = false;
+    for (QLineSeries *series : {seriesX, seriesY, seriesZ, seriesCursor})
+        series->replace(QVector<QPointF>());
+    pointCount = 0;
+    nextX = 0;
+    yRange = FirstYRange;
+    mAxisX->setRange(0, WindowSize);
+    showYRange();
+}
+
+void GyroChartView::setupSeries()
+{
+    chart()->setTheme(QChart::ChartThemeDark);
+    const struct
+    {
+        QLineSeries *&series;
+        const char *name;
+        Qt::GlobalColor colour;
+    } lines[] = {{seriesX, "X ", Qt::red}, {seriesY, "Y ", Qt::green}, {seriesZ, "Z ", Qt::blue}};
+    for (const auto &line : lines) {
+        line.series = new QLineSeries;
+        line.series->setName(QLatin1String(line.name));
+        line.series->setColor(line.colour);
+        chart()->addSeries(line.series);
+    }
+    seriesCursor = new QLineSeries;
+    seriesCursor->setName(QStringLiteral("C "));
+    seriesCursor->setPen(QPen(QBrush(Qt::yellow), CursorWidth));
+    chart()->addSeries(seriesCursor);
+}
+
+void GyroChartView::setupAxes()
+{
+    mAxisX = new QValueAxis;
+    mAxisX->setRange(0, WindowSize);
+    mAxisX->setVisible(false);
+    mAxisY = new QValueAxis;
+    mAxisY->setLabelFormat(QStringLiteral("%dG"));
+    mAxisY->setLineVisible(false);
+    mAxisY->setGridLinePen(QPen(QBrush(Qt::black), 1.0));
+    mAxisY->setTickCount(YTickCount);
+    mAxisY->setLabelsFont(pixelFont(LabelFontPixels));
+    yRange = FirstYRange;
+    showYRange();
+
+    chart()->addAxis(mAxisX, Qt::AlignBottom);
+    chart()->addAxis(mAxisY, Qt::AlignLeft);
+    for (QLineSeries *series : {seriesX, seriesY, seriesZ, seriesCursor}) {
+        series->attachAxis(mAxisX);
+        series->attachAxis(mAxisY);
+    }
+}
+
+void GyroChartView::setupLook()
+{
+    QLegend *legend = chart()->legend();
+    legend->setAlignment(Qt::AlignBottom);
+    legend->setFont(pixelFont(LegendFontPixels));
+    legend->layout()->setContentsMargins(0, 0, 0, 0);
+    setRenderHint(QPainter::Antialiasing);
+    chart()->layout()->setContentsMargins(0, 0, 0, 0);
+    chart()->setMargins(QMargins());
+    chart()->setBackgroundRoundness(0);
+    chart()->setBackgroundVisible(false);
+}
+
+void GyroChartView::growYRange(const GyroData &sample)
+{
+    const float most = std::max({std::fabs(sample.x), std::fabs(sample.y), std::fabs(sample.z)});
+    if (!std::isfinite(most) || most < float(yRange))
+        return;
+    yRange += YRangeStep * (int((most - float(yRange)) / YRangeStep) + 1);
+    showYRange();
+}
+
+void GyroChartView::showYRange()
+{
+    mAxisY->setRange(-yRange, yRange);
+}
+
+void GyroChartView::requestLayout()
+{
+    mIsStale = true;
+    if (!mLayoutTimer.isActive())
+        layOutIfStale();
+}
+
+void GyroChartView::layOutIfStale()
+{
+    if (!mIsStale)
+        return;
+    mIsStale = false;
+    if (mFollowsLast)
+        mAxisX->setRange(pointCount - 1 - WindowSize, pointCount - 1);
+    for (QLineSeries *series : {seriesX, seriesY, seriesZ})
+        emit series->pointsReplaced();
+    mLayoutTimer.start();
+}

@@ -1,0 +1,294 @@
+// SPDX-FileCopyrightText: 2026 Quellfern
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "mapwebview.h"
+
+#include "appname.h"
+#include "gpsuser.h"
+#include "mappage.h"
+
+#include <QApplication>
+#include <QCoreApplication>
+#include <QDebug>
+#include <QDesktopWidget>
+#include <QEvent>
+#include <QTime>
+#include <QTimer>
+#include <QUrl>
+#include <QWebEngineProfile>
+#include <QWebEngineView>
+#include <QWindow>
+
+#include <iterator>
+
+namespace {
+
+constexpr int PageLoadMs = 1000;
+constexpr int SettleMs = 500;
+constexpr int EventSliceMs = 100;
+constexpr int TileCacheBytes = 100 * 1024 * 1024;
+
+const char GooglePagePrefix[] = "WG_";
+
+// By language, as the settings number them; the last is for all others.
+const char *const GooglePages[] = {
+    "GoogleMapIndex_zh_CN.html", "GoogleMapIndex_zh_TW.html", "GoogleMapIndex_en_talvor.html",
+    "GoogleMapIndex_en_uk.html", "GoogleMapIndex_fr.html",    "GoogleMapIndex_it.html",
+    "GoogleMapIndex_ja.html",    "GoogleMapIndex_pl.html",    "GoogleMapIndex_ru.html",
+    "GoogleMapIndex_de.html",    "GoogleMapIndex_es.html",    "GoogleMapIndex_pt.html",
+    "GoogleMapIndex_ko.html",    "GoogleMapIndex_en.html",
+};
+
+// What pages in no language of their own are told, likewise.
+const char *const PageLanguages[] = {"zh-CN", "zh-TW", "en-US", "en-GB", "fr", "it", "ja",
+                                     "pl",    "ru",    "de",    "es",    "pt", "ko", "en-US"};
+
+struct MapCentre
+{
+    double longitude;
+    double latitude;
+};
+
+// Likewise. Both Chinese variants share one centre, and the third is in the south, as required.
+constexpr MapCentre Centres[] = {
+    {116.3753, 39.9},
+    {116.3753, 39.9},
+    {151.215219, -33.856731},
+    {-0.1267719269, 51.5087958794},
+    {2.349872, 48.852969},
+    {12.49875, 41.896463},
+    {139.766909, 35.681151},
+    {21.005988, 52.231847},
+    {37.617487, 55.75203},
+    {13.393621, 52.517892},
+    {-3.712177, 40.423428},
+    {-9.139509, 38.71217},
+    {126.991179927, 37.5527383075},
+    {-74.013476, 40.705562},
+};
+
+template <typename Table>
+const auto &ofLanguage(const Table &table)
+{
+    const int language = Configuration::GetInstance()->language();
+    const int last = int(std::size(table)) - 1;
+    return table[language >= 0 && language < last ? language : last];
+}
+
+QString fixed(double degrees)
+{
+    return QStringLiteral("%1").arg(degrees, 0, 'f', 6);
+}
+
+/** What the tile servers ask of programs: a name, a version and an address. */
+QString userAgent()
+{
+    return QStringLiteral("TalvorPlayer/%1 (maps@quellfern.example)").arg(APP_VERSION);
+}
+
+} // namespace
+
+MapWebView::MapWebView(QWidget *parent) : QWidget(parent)
+{
+    qRegisterMetaType<QVector<QVector<double>>>("QVector<QVector<double> >");
+    qRegisterMetaType<QVector<double>>("QVector<double>");
+    setupWebView();
+    setMapType(Configuration::GetInstance()->maps());
+    if (parent)
+        topWindow = parent->window();
+    if (topWindow)
+        topWindow->installEventFilter(this);
+    installEventFilter(this);
+}
+
+MapWebView::~MapWebView()
+{
+    delete webView;
+}
+
+void MapWebView::updatePosition()
+{
+    webView->setGeometry(
+        QRect(mapToGlobal(QPoint(0, 0)), mapToGlobal(QPoint(width() - 1, height() - 1))));
+    showWebView();
+}
+
+void MapWebView::delay_time(int ms)
+{
+    qDebug() << "------ 将延时" << ms << " ms ------";
+    const QTime deadline = QTime::currentTime().addMSecs(ms);
+    while (QTime::currentTime() < deadline)
+        QCoreApplication::processEvents(QEventLoop::AllEvents, EventSliceMs);
+}
+
+bool MapWebView::eventFilter(QObject *watched, QEvent *event)
+{
+    const bool isOwn = watched == this;
+    if (isOwn || watched == topWindow) {
+        if (event->type() == QEvent::Move || event->type() == QEvent::Resize)
+            updatePosition();
+        else if (isOwn && event->type() == QEvent::Show)
+            showWebView();
+        else if (isOwn && event->type() == QEvent::Hide)
+            webView->hide();
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void MapWebView::setMapType(MapTypes type)
+{
+    switch (type) {
+    case MapBaidu:
+        qDebug() << "百度地图 setMapType map-baidu";
+        loadPage(QStringLiteral("BaiduMapIndex.html"));
+        break;
+    case MapGoogle:
+        loadPage(QLatin1String(GooglePagePrefix) + QLatin1String(ofLanguage(GooglePages)));
+        qDebug() << "谷歌地图 SetMapType Google Map";
+        break;
+    case MapOpenStreetMap:
+        qDebug() << "OSM地图 setMapType map-OpenstreetMap";
+        loadOpenStreetMap();
+        break;
+    }
+}
+
+void MapWebView::addPoint(const MapPoint &point)
+{
+    runScript(QStringLiteral("mapAddPoint(%1, %2, %3);")
+                  .arg(fixed(point.longitude), fixed(point.latitude))
+                  .arg(point.id));
+}
+
+void MapWebView::clearAll()
+{
+    const int clearCount = ++mClearCount;
+    delay_time(SettleMs);
+    qDebug() << "ClearAll Map";
+    // Another one, called in the meantime, has cleared the map, and a track may be there by now.
+    if (clearCount == mClearCount)
+        runScript(QStringLiteral("mapClearAll();"));
+}
+
+void MapWebView::setWebViewVisible(bool visible)
+{
+    qDebug() << "setWebViewVisible";
+    if (visible)
+        updatePosition();
+    else
+        webView->setGeometry(0, QApplication::desktop()->geometry().height(), 1, 1);
+}
+
+void MapWebView::loadAllGpsData(QVector<QVector<double>> allGpsData)
+{
+    const int clearCount = mClearCount;
+    delay_time(SettleMs);
+    if (clearCount == mClearCount && Configuration::GetInstance()->maps() == MapOpenStreetMap) {
+        if (allGpsData.isEmpty()) {
+            qDebug() << "地图没有轨迹";
+        } else {
+            qDebug() << "地图有轨迹，将加载全部";
+            sendTrack(allGpsData);
+        }
+    }
+    allDataLoaded = true;
+}
+
+void MapWebView::setWheelZoomValid()
+{
+    wheelZoomValid = true;
+}
+
+void MapWebView::runScript(const QString &call)
+{
+    if (mIsPageLoaded)
+        webView->page()->runJavaScript(call);
+    else
+        mHeldCalls.append(call);
+}
+
+void MapWebView::setupWebView()
+{
+    webView = new QWebEngineView(this);
+    // A profile with a name keeps its tiles on disk.
+    auto *profile = new QWebEngineProfile(QStringLiteral("map"), this);
+    profile->setHttpCacheMaximumSize(TileCacheBytes);
+    profile->setHttpUserAgent(userAgent());
+    webView->setPage(new MapPage(profile, webView));
+    connect(webView->page(), &MapPage::loadFinished, this, &MapWebView::onLoadFinished);
+
+    webView->setWindowFlags(Qt::Tool | Qt::FramelessWindowHint);
+    webView->setAttribute(Qt::WA_MacAlwaysShowToolWindow);
+    webView->setAttribute(Qt::WA_ShowWithoutActivating);
+    webView->setContextMenuPolicy(Qt::NoContextMenu);
+    webView->setAcceptDrops(false);
+}
+
+/** Only behind the main window: a window manager that hears of the web view first puts it below. */
+void MapWebView::showWebView()
+{
+    if (!isVisible())
+        return;
+    if (!window()->windowHandle()->isVisible()) {
+        QTimer::singleShot(0, this, &MapWebView::showWebView);
+        return;
+    }
+    if (!webView->windowHandle()) {
+        // The window system never gives it the keyboard, which the main window's shortcuts need.
+        webView->winId();
+        webView->windowHandle()->setFlag(Qt::WindowDoesNotAcceptFocus);
+    }
+    webView->show();
+}
+
+void MapWebView::loadPage(const QString &fileName)
+{
+    mIsPageLoaded = false;
+    mHeldCalls.clear();
+    webView->page()->profile()->setHttpAcceptLanguage(QLatin1String(ofLanguage(PageLanguages)));
+    webView->page()->load(QUrl::fromLocalFile(QCoreApplication::applicationDirPath() +
+                                              QStringLiteral("/maps/") + fileName));
+}
+
+// A load that was given up for the next one reports a failure, and what is held is for that one.
+void MapWebView::onLoadFinished(bool isGood)
+{
+    if (!isGood)
+        return;
+    mIsPageLoaded = true;
+    const QStringList calls = std::exchange(mHeldCalls, {});
+    for (const QString &call : calls)
+        webView->page()->runJavaScript(call);
+}
+
+void MapWebView::loadOpenStreetMap()
+{
+    loadPage(QStringLiteral("OpenStreetMap.html"));
+    delay_time(PageLoadMs);
+    const MapCentre &centre = ofLanguage(Centres);
+    runScript(QStringLiteral("showMapCenter(%1, %2);").arg(centre.longitude).arg(centre.latitude));
+    qDebug() << "显示 OSM 地图中心点";
+    if (allDataLoaded)
+        sendTrackAgain();
+}
+
+void MapWebView::sendTrackAgain()
+{
+    qDebug() << "setMapType map-osm";
+    const auto *stored = static_cast<GPSUser *>(userData(GPS_USER_DATA_ID));
+    if (!stored)
+        return; // the caller of loadAllGpsData() has not attached it yet
+    qDebug() << "本地数据 ID : " << stored->rowId << ",本地数据：gpsGroup"
+             << stored->allGpsData.size();
+    qDebug() << "OSM MAP START";
+    runScript(QStringLiteral("mapClearAll()"));
+    loadAllGpsData(stored->allGpsData);
+}
+
+void MapWebView::sendTrack(const QVector<QVector<double>> &track)
+{
+    const QString call = QStringLiteral("loadAllGpsDataOfVideo(%1, %2, %3, %4)");
+    for (int i = 0; i < track.size(); ++i) {
+        const QVector<double> &pair = track.at(i);
+        runScript(call.arg(fixed(pair.at(0)), fixed(pair.at(1))).arg(i).arg(track.size()));
+    }
+}

@@ -1,0 +1,82 @@
+// SPDX-FileCopyrightText: 2026 Quellfern
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "configuration.h"
+#include "mappoint.h"
+
+#include <QStringList>
+#include <QVector>
+#include <QWidget>
+
+class QWebEngineView;
+
+/**
+ * The place of the map in the main window, and the web view that lies over it.
+ *
+ * The map is a local page, one for each provider, that is driven by calls of its JavaScript
+ * functions only; none of them has a result. Calls made before the page has loaded are held back
+ * and run in order when it has; a new page drops those held for the old one. A page that is missing
+ * shows the web view's own error.
+ *
+ * The web view is a frameless tool window that follows this widget, because a picture of the web
+ * engine does not mix with those of a video in one window. It never takes the keyboard.
+ *
+ * GUI thread only. Some of the commands wait while events are processed, so that other slots run
+ * in the meantime, those of this class included.
+ */
+class MapWebView : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /** Loads the page of the configured provider at once. */
+    explicit MapWebView(QWidget *parent = nullptr);
+    ~MapWebView() override;
+
+    /** Lays the web view over this widget and shows it. */
+    void updatePosition();
+
+    /** Processes events for @p ms milliseconds of the time of day; a wait across midnight ends at
+     *  once. */
+    static void delay_time(int ms);
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+public slots:
+    /** Loads the provider's page, in the configured language where the provider has one for each.
+     *  OpenStreetMap is waited for, centred, and given the track again (GPSUser). */
+    void setMapType(MapTypes type);
+    /** Extends the live track by a point, which must be a position. */
+    void addPoint(const MapPoint &point);
+    void clearAll();
+    /** Lays the web view over this widget, or parks it below the screen, where it keeps running. */
+    void setWebViewVisible(bool visible);
+    /** Sends a whole track, pairs of longitude and latitude, unless the map is cleared before that.
+     *  Only OpenStreetMap takes one. */
+    void loadAllGpsData(QVector<QVector<double>> allGpsData);
+    /** Has no effect. */
+    void setWheelZoomValid();
+
+protected:
+    /** Runs a call in the page, at once or when the page has loaded. */
+    virtual void runScript(const QString &call);
+
+private:
+    void setupWebView();
+    void showWebView();
+    void loadPage(const QString &fileName);
+    void onLoadFinished(bool isGood);
+    void loadOpenStreetMap();
+    void sendTrackAgain();
+    void sendTrack(const QVector<QVector<double>> &track);
+
+    QWebEngineView *webView = nullptr; // deleted by hand: its page goes before the profile
+    bool wheelZoomValid = true;
+    QWidget *topWindow = nullptr; ///< the window that this widget lies in, may be null
+    bool allDataLoaded = false;   ///< a track was offered, whether or not the page took it
+
+    bool mIsPageLoaded = false;
+    QStringList mHeldCalls;
+    int mClearCount = 0;
+};

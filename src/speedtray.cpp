@@ -1,0 +1,103 @@
+// SPDX-FileCopyrightText: 2026 Quellfern
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "speedtray.h"
+
+#include <QPainter>
+
+#include "configuration.h"
+#include "gaugeface.h"
+
+namespace {
+
+// The scale of the dial.
+constexpr int MaxSpeed = 220;
+constexpr int StartAngleDeg = -135;
+constexpr int SweepDeg = 270;
+constexpr double KmPerMile = 1.609344;
+
+// The needle, as parts of the dial's side.
+constexpr float NeedleLength = 0.3F;
+constexpr double NeedleWidth = 0.04;
+constexpr double NeedleTipHalfWidth = 0.5; // in pixels
+
+const QColor TextColor(245, 41, 56);
+constexpr double TextTop = 0.76; // as a part of the dial's side
+constexpr int LargeTextSide = 201;
+constexpr int SmallTextPoints = 10;
+constexpr int LargeTextPoints = 14;
+
+const QColor NeedleShadow(78, 18, 18);
+const QColor NeedleLight(Qt::darkRed);
+
+bool isMetric()
+{
+    return Configuration::GetInstance()->speedUnit() == 0;
+}
+
+} // namespace
+
+SpeedTray::SpeedTray(QWidget *parent)
+    : QWidget(parent), pixmap(QStringLiteral(":/image/speed.png")), angle(angleOnDial(0))
+{
+    update();
+}
+
+void SpeedTray::setSpeed(int speedKmh)
+{
+    if (speedKmh < 0 || speedKmh > MaxSpeed)
+        return;
+    speed = isMetric() ? speedKmh : int(speedKmh / KmPerMile);
+    angle = angleOnDial(speed);
+    update();
+}
+
+QString SpeedTray::speedText() const
+{
+    return (isMetric() ? QStringLiteral("%1 km/h") : QStringLiteral("%1 MPH")).arg(speed);
+}
+
+int SpeedTray::angleOnDial(int number)
+{
+    return number * SweepDeg / MaxSpeed + StartAngleDeg;
+}
+
+void SpeedTray::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    drawGaugeFace(painter, gaugeSquare(size()), pixmap);
+    drawSpeedText(painter);
+    drawNeedle(painter);
+}
+
+QRectF SpeedTray::textRect() const
+{
+    const QRect square = gaugeSquare(size());
+    const int textWidth = width() / 3;
+    const int textHeight = height() / 12;
+    return QRectF(width() / 2 - 0.5 * textWidth, square.top() + square.width() * TextTop, textWidth,
+                  textHeight);
+}
+
+void SpeedTray::drawSpeedText(QPainter &painter) const
+{
+    const bool isLarge = gaugeSquare(size()).width() >= LargeTextSide;
+    painter.setPen(QPen(TextColor, 3.0, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
+    painter.setFont(QFont(QStringLiteral("Calibri"), isLarge ? LargeTextPoints : SmallTextPoints));
+    // The rectangle is lower than a line of the font, and at many sizes narrower than the text.
+    painter.drawText(textRect(), Qt::AlignHCenter | Qt::AlignVCenter | Qt::TextDontClip,
+                     speedText());
+}
+
+void SpeedTray::drawNeedle(QPainter &painter) const
+{
+    const int side = gaugeSquare(size()).width();
+    const qreal base = 0.5 * NeedleWidth * side;
+    const qreal length = NeedleLength * side;
+    const qreal tip = NeedleTipHalfWidth;
+
+    turnGaugeNeedle(painter, size(), angle);
+    drawNeedlePart(painter, NeedleShadow, {{{0, 0}, {-base, 0}, {-tip, -length}, {0, -length}}});
+    drawNeedlePart(painter, NeedleLight, {{{0, 0}, {base, 0}, {tip, -length}, {0, -length}}});
+    drawNeedleHub(painter, NeedleLight, NeedleWidth * side - 1.0);
+}

@@ -1,0 +1,266 @@
+// SPDX-FileCopyrightText: 2026 Quellfern
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "configuration.h"
+#include "gpsuser.h"
+#include "mapwebview.h"
+
+#include <QCloseEvent>
+#include <QDesktopWidget>
+#include <QDialog>
+#include <QKeyEvent>
+#include <QProcess>
+#include <QtTest>
+#include <QVBoxLayout>
+#include <QWebEnginePage>
+#include <QWebEngineView>
+
+namespace {
+
+/** Notes the texts of the calls, and makes them. */
+class ListeningMap : public MapWebView
+{
+public:
+    using MapWebView::MapWebView;
+    QStringList calls;
+
+protected:
+    void runScript(const QString &call) override
+    {
+        calls.append(call);
+        MapWebView::runScript(call);
+    }
+};
+
+/** A window with shortcuts. */
+class Window : public QDialog
+{
+public:
+    int spaces = 0;
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override { spaces += event->key() == Qt::Key_Space; }
+    void closeEvent(QCloseEvent *event) override { event->accept(); }
+};
+
+QString outputOf(const QString &program, const QStringList &arguments)
+{
+    QProcess process;
+    process.start(program, arguments);
+    if (!process.waitForFinished(10000) || process.exitCode() != 0)
+        qWarning() << program << arguments << process.errorString();
+    return QString::fromLocal8Bit(process.readAllStandardOutput());
+}
+
+void setLanguage(int language)
+{
+    Configuration::GetInstance()->setLanguage(Language_e(language));
+}
+
+} // namespace
+
+/** The map view in a window of its own, under a window manager, with the program's own pages. */
+class TestMapWebView : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void pages_data();
+    void pages();
+    void callTexts();
+    void tracksAndProviders();
+    void callsWaitForThePage();
+    void followsItsPlace();
+    void leavesKeyboardAndProgramAlone();
+
+private:
+    QRect place() const;
+    QString stateOf(const QString &expression);
+
+    std::unique_ptr<Window> mWindow;
+    ListeningMap *mMap = nullptr;
+    QWebEngineView *mView = nullptr;
+};
+
+void TestMapWebView::init()
+{
+    QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false"));
+    setLanguage(EnglishUS);
+    Configuration::GetInstance()->setMaps(MapOpenStreetMap);
+    mWindow = std::make_unique<Window>();
+    mMap = new ListeningMap(mWindow.get());
+    (new QVBoxLayout(mWindow.get()))->addWidget(mMap);
+    mView = mMap->findChild<QWebEngineView *>();
+    connect(Configuration::GetInstance(), &Configuration::mapsChanged, mMap,
+            &MapWebView::setMapType);
+}
+
+void TestMapWebView::cleanup()
+{
+    mWindow.reset();
+}
+
+/** Where the web view has to lie on the screen. */
+QRect TestMapWebView::place() const
+{
+    return QRect(mMap->mapToGlobal(QPoint(0, 0)), mMap->size());
+}
+
+/** What the page answers. */
+QString TestMapWebView::stateOf(const QString &expression)
+{
+    QVariant answer;
+    QEventLoop loop; // the test's own waiting leaves the web engine too little time
+    QTimer::singleShot(5000, &loop, &QEventLoop::quit);
+    mView->page()->runJavaScript(expression, [&](const QVariant &value) {
+        answer = value;
+        loop.quit();
+    });
+    loop.exec();
+    return answer.toString();
+}
+
+void TestMapWebView::pages_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::addColumn<int>("language");
+    QTest::addColumn<QString>("page");
+    const char *const google[] = {"zh_CN", "zh_TW", "en_talvor", "en_uk", "fr", "it", "ja",
+                                  "pl",    "ru",    "de",        "es",    "pt", "ko", "en"};
+    for (int language = 0; language < 14; ++language)
+        QTest::addRow("Google in %s", google[language])
+            << 1 << language << QStringLiteral("WG_GoogleMapIndex_%1.html").arg(google[language]);
+    QTest::newRow("Google in no language") << 1 << 99 << "WG_GoogleMapIndex_en.html";
+    QTest::newRow("Baidu") << 0 << 4 << "BaiduMapIndex.html";
+    QTest::newRow("unknown") << 7 << 4 << "OpenStreetMap.html"; // the page stays
+}
+
+void TestMapWebView::pages()
+{
+    QFETCH(int, type);
+    QFETCH(int, language);
+    QFETCH(QString, page);
+    setLanguage(language);
+    mMap->setMapType(MapTypes(type));
+    const QUrl url = QUrl::fromLocalFile(QCoreApplication::applicationDirPath() + "/maps/" + page);
+    QCOMPARE(mView->page()->requestedUrl(), url);
+    QVERIFY2(QFileInfo(url.toLocalFile()).isFile(), "The build has not made this page");
+    QVERIFY(mMap->calls.isEmpty());
+}
+
+void TestMapWebView::callTexts()
+{
+    mMap->addPoint({7, 8.5, -33.1234567});
+    mMap->clearAll();
+    const struct
+    {
+        int language;
+        const char *call;
+    } centres[] = {{0, "showMapCenter(116.375, 39.9);"},
+                   {2, "showMapCenter(151.215, -33.8567);"},
+                   {3, "showMapCenter(-0.126772, 51.5088);"},
+                   {99, "showMapCenter(-74.0135, 40.7056);"}};
+    QStringList expected{"mapAddPoint(8.500000, -33.123457, 7);", "mapClearAll();"};
+    for (const auto &centre : centres) {
+        setLanguage(centre.language);
+        mMap->setMapType(MapOpenStreetMap);
+        expected.append(centre.call);
+    }
+    QCOMPARE(mMap->calls, expected);
+}
+
+void TestMapWebView::tracksAndProviders()
+{
+    const QVector<QVector<double>> track{{11.5, 48.25}, {0, 0}};
+    const QStringList trackCalls{"loadAllGpsDataOfVideo(11.500000, 48.250000, 0, 2)",
+                                 "loadAllGpsDataOfVideo(0.000000, 0.000000, 1, 2)"};
+    Configuration::GetInstance()->setMaps(MapGoogle);
+    mMap->loadAllGpsData(track); // kept for OpenStreetMap
+    mMap->setUserData(GPS_USER_DATA_ID, new GPSUser(3, track));
+    QCOMPARE(mMap->calls, QStringList());
+
+    Configuration::GetInstance()->setMaps(MapOpenStreetMap);
+    const QStringList again = QStringList{"showMapCenter(151.215, -33.8567);", "mapClearAll()"};
+    QCOMPARE(mMap->calls, again + trackCalls);
+
+    mMap->calls.clear();
+    mMap->loadAllGpsData({});
+    mMap->loadAllGpsData(track);
+    QCOMPARE(mMap->calls, trackCalls);
+
+    mMap->calls.clear();
+    QTimer::singleShot(100, mMap, &MapWebView::clearAll);
+    mMap->loadAllGpsData(track); // cleared before it was sent
+    QCOMPARE(mMap->calls, QStringList{"mapClearAll();"});
+}
+
+void TestMapWebView::callsWaitForThePage()
+{
+    mWindow->resize(320, 280);
+    mWindow->show();
+    // Within the wait for the page; the point before it belongs to the page before.
+    mMap->addPoint({1, 11.4, 48.1});
+    QTimer::singleShot(0, mMap, [this] { mMap->addPoint({5, 11.5, 48.2}); });
+    mMap->setMapType(MapOpenStreetMap);
+    QTRY_COMPARE(stateOf("JSON.stringify(talvorMap.state().position)"), QString("[11.5,48.2]"));
+    QCOMPARE(stateOf("talvorMap.state().drivenPoints"), QString("1"));
+}
+
+void TestMapWebView::followsItsPlace()
+{
+    QCOMPARE(int(mView->windowFlags()), 0x80B);
+    mWindow->setGeometry(100, 120, 320, 280);
+    mWindow->show();
+    QVERIFY(QTest::qWaitForWindowActive(mWindow.get()));
+    QTRY_VERIFY(mView->isVisible());
+    QTRY_COMPARE(mView->geometry(), place());
+    mWindow->move(300, 200);
+    QTRY_COMPARE(mView->geometry(), place());
+    mWindow->resize(500, 400);
+    QTRY_COMPARE(mView->geometry(), place());
+    mWindow->showMaximized();
+    QTRY_VERIFY(mMap->width() > 1000);
+    QTRY_COMPARE(mView->geometry(), place());
+    mWindow->showNormal();
+    QTRY_VERIFY(mMap->width() < 1000);
+    QTRY_COMPARE(mView->geometry(), place());
+
+    const QStringList ofView{"-id", QString::number(mView->winId())};
+    QVERIFY(outputOf("xwininfo", ofView).contains("IsViewable"));
+    mWindow->showMinimized();
+    QTRY_VERIFY(!outputOf("xwininfo", ofView).contains("IsViewable"));
+    mWindow->showNormal();
+    QTRY_VERIFY(outputOf("xwininfo", ofView).contains("IsViewable"));
+    QTRY_COMPARE(mView->geometry(), place());
+
+    mMap->setWebViewVisible(false);
+    QCOMPARE(mView->geometry(), QRect(0, QApplication::desktop()->height(), 1, 1));
+    QVERIFY(mView->isVisible());
+    mMap->setWebViewVisible(true);
+    QCOMPARE(mView->geometry(), place());
+    mMap->hide();
+    QVERIFY(!mView->isVisible());
+    mMap->show();
+    QTRY_VERIFY(mView->isVisible());
+}
+
+void TestMapWebView::leavesKeyboardAndProgramAlone()
+{
+    mWindow->setGeometry(100, 120, 320, 280);
+    mWindow->show();
+    QVERIFY(QTest::qWaitForWindowActive(mWindow.get()));
+    QTRY_VERIFY(mView->isVisible());
+    const QPoint middle = place().center();
+    outputOf("xdotool", {"mousemove", QString::number(middle.x()), QString::number(middle.y()),
+                         "click", "1", "key", "space"});
+    QTRY_COMPARE(mWindow->spaces, 1);
+
+    QTimer::singleShot(0, mWindow.get(), &QWidget::close);
+    QTimer::singleShot(5000, this, [] { QCoreApplication::exit(1); });
+    QCOMPARE(QCoreApplication::exec(), 0); // ended by the last window
+    QVERIFY(!mView->isVisible());
+}
+
+QTEST_MAIN(TestMapWebView)
+#include "tst_mapwebview.moc"
