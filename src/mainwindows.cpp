@@ -7,6 +7,7 @@
 #include "appname.h"
 #include "configuration.h"
 #include "gpsuser.h"
+#include "gyrosampling.h"
 #include "mediaurl.h"
 #include "movefilter.h"
 #include "playlistmodel.h"
@@ -467,26 +468,20 @@ void MainWindows::clearAndAskForTelemetry(int rowId, int round)
         mPlaylistModel->updateAllGpsData(rowId);
 }
 
-/** One point for each sample, or for each second of video where there is a sample for each frame.
- *  Events are processed after every point; returns false when playback was started anew or stopped
- *  meanwhile. */
+/** Events are processed after every point; returns false when playback was started anew or stopped
+ *  meanwhile, or the telemetry delivered again. */
 bool MainWindows::fillChart(int rowId, const QList<GpsData> &samples)
 {
-    const int round = ++mRound;
-    const int durationS = mPlaylistModel->getCurPlayFileDuration(rowId);
-    const float frameRate = mPlaylistModel->getVideoframerate(rowId);
-    const bool isPerSample =
-        frameRate <= 0.0f || float(samples.size()) < float(durationS - 1) * frameRate;
-    const float step = isPerSample ? 1.0f : frameRate;
-    const int count = isPerSample ? samples.size() : durationS;
-
+    const GyroCurve curve = gyroCurveOf(samples, mPlaylistModel->getCurPlayFileDuration(rowId),
+                                        mPlaylistModel->getVideoframerate(rowId));
+    const int round = mRound;
+    const int filling = ++mFillings;
     mUi->gView_GyroChart->clearAll();
-    mUi->gView_GyroChart->setAxisXRange(count);
-    for (int i = 0; i<count &&float(samples.size())> float(i) * step; ++i) {
-        const GpsData &sample = samples.at(int(float(i) * step));
-        mUi->gView_GyroChart->insertPoints({sample.gsensorX, sample.gsensorY, sample.gsensorZ});
+    mUi->gView_GyroChart->setAxisXRange(curve.xRange);
+    for (const GyroData &point : curve.points) {
+        mUi->gView_GyroChart->insertPoints(point);
         QCoreApplication::processEvents();
-        if (round != mRound)
+        if (round != mRound || filling != mFillings)
             return false;
     }
     return true;

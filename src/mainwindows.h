@@ -105,6 +105,6 @@ private:
     std::unique_ptr<Ui::MainWindows> mUi;
     PlaylistModel *mPlaylistModel = nullptr; // deleted by hand: it goes before the widgets
     QRect mUnconfirmedRect;                  // set until the window is active for the first time
-    int mRound =
-        0; // counts up with each start and stop: filling the displays for an older one ends
+    int mRound = 0;    // starts and stops: what was begun for an earlier one is given up
+    int mFillings = 0; // of the chart: a later one takes over
 };
