@@ -51,7 +51,11 @@ play_and_picture() {
         head -n 1)
     [ -n "$window" ] || fail "the player's window did not open"
     sleep $play_seconds
-    import -window "$window" "$screenshot" || fail "could not take the screenshot"
+    # Off the screen: the map lies over the window in one of its own.
+    eval "$(xdotool getwindowgeometry --shell "$window")"
+    # shellcheck disable=SC2153 # set by the line before
+    import -window root -crop "${WIDTH}x$HEIGHT+$X+$Y" +repage "$screenshot" ||
+        fail "could not take the screenshot"
     # Alt+F4 is what the window manager turns into a close request.
     xdotool windowactivate --sync "$window" key alt+F4
     wait $process || fail "the player ended with status $?"
