@@ -9,6 +9,8 @@
 #include <QSettings>
 #include <QStandardPaths>
 
+#include <iterator>
+
 namespace {
 
 const QString ScreenshotSavePathKey = QStringLiteral("ScreenshotSavePath");
@@ -19,6 +21,42 @@ const QString SpeedUnitKey = QStringLiteral("speedUnit");
 const QString VideoFilePathKey = QStringLiteral("videoFilePath");
 const QString MainwindowsRectKey = QStringLiteral("mainwindowsRect");
 const QString MainwindowsIsMaximizeKey = QStringLiteral("mainwindowsIsMaximize");
+
+// By language; English is what the texts are written in.
+const char *const TranslationNames[] = {
+    "Chinese", "ChineseTraditional", nullptr,  nullptr,   "French",
+    "Italian", "Japanese",           "Polish", "Russian", "German",
+    "Spanish", "Portugal",           "Korean",
+};
+static_assert(std::size(TranslationNames) == LanguageUnset, "one for each language");
+
+struct LocaleLanguage
+{
+    QLocale::Language localeLanguage;
+    Language_e language;
+};
+
+// Which variant of Chinese depends on the country; British English is never derived.
+constexpr LocaleLanguage LocaleLanguages[] = {
+    {QLocale::English, EnglishUS}, {QLocale::French, French},   {QLocale::Italian, Italian},
+    {QLocale::Japanese, Japanese}, {QLocale::Polish, Polish},   {QLocale::Russian, Russian},
+    {QLocale::German, German},     {QLocale::Spanish, Spanish}, {QLocale::Portuguese, Portugal},
+    {QLocale::Korean, Korean},
+};
+
+Language_e languageOf(const QLocale &locale)
+{
+    if (locale.language() == QLocale::Chinese) {
+        const bool isTraditional =
+            locale.country() == QLocale::Taiwan || locale.country() == QLocale::HongKong;
+        return isTraditional ? ChineseTraditional : Chinese;
+    }
+    for (const LocaleLanguage &entry : LocaleLanguages) {
+        if (entry.localeLanguage == locale.language())
+            return entry.language;
+    }
+    return EnglishUS;
+}
 
 QString firstLocation(QStandardPaths::StandardLocation location, const QString &fallback)
 {
@@ -66,11 +104,20 @@ void Configuration::setScreenshotSavePath(const QString &path)
 
 Language_e Configuration::language()
 {
-    return Language_e(mSettings->value(LanguageKey, LanguageUnset).toInt());
+    const auto stored = Language_e(mSettings->value(LanguageKey, LanguageUnset).toInt());
+    if (stored != LanguageUnset)
+        return stored;
+    const QLocale locale = QLocale::system();
+    qDebug() << locale.language() << locale.country();
+    const Language_e derived = languageOf(locale);
+    qDebug() << "targetLanguage" << derived;
+    return derived;
 }
 
 void Configuration::setLanguage(Language_e language)
 {
+    if (!installTranslation(language))
+        return;
     store(LanguageKey, int(language));
     emit updateLanguage();
 }
@@ -142,6 +189,26 @@ void Configuration::setMainwindowsIsMaximize(bool maximized)
 QRect Configuration::defaultMainwindowsRect()
 {
     return QRect(483, 166, 921, 628);
+}
+
+bool Configuration::installTranslation(Language_e language)
+{
+    const char *name = nullptr;
+    if (language < LanguageUnset) {
+        if (language < 0)
+            return false;
+        name = TranslationNames[language];
+    }
+    if (!name) {
+        QCoreApplication::removeTranslator(&mTranslator);
+        return true;
+    }
+    const QString file = QStringLiteral(":/translations/%1.qm").arg(QLatin1String(name));
+    // Tried apart: a failed load empties a translator, and with it the language in force.
+    if (!QTranslator().load(file))
+        return false;
+    QCoreApplication::removeTranslator(&mTranslator);
+    return mTranslator.load(file) && QCoreApplication::installTranslator(&mTranslator);
 }
 
 void Configuration::store(const QString &key, const QVariant &value)

@@ -62,9 +62,12 @@ public:
     QString screenshotSavePath();
     void setScreenshotSavePath(const QString &path);
 
-    /** The stored language as it is, LanguageUnset when none is stored. */
+    /** The stored language as it is; when none is stored, the one for the system's locale, which is
+     *  not stored here. */
     Language_e language();
-    /** Stores the language and emits updateLanguage(). */
+    /** Installs the language's translation in the application, or none for English and numbers
+     *  above the list; stores it and emits updateLanguage(). When the translation cannot be loaded,
+     *  nothing of this happens and the language before stays. */
     void setLanguage(Language_e language);
 
     /** Whether the country remembered at the first call (the system locale's) is mainland China. */
@@ -100,9 +103,10 @@ signals:
 
 private:
     Configuration();
+    bool installTranslation(Language_e language);
     void store(const QString &key, const QVariant &value);
 
-    QTranslator mTranslator;
+    QTranslator mTranslator;        // installed while a translated language is set
     QSettings *mSettings = nullptr; // child of this object
 
     static Configuration *manager;

@@ -46,9 +46,8 @@ void removeFirstQuietly(QLineSeries *series)
 
 } // namespace
 
-GyroChartView::GyroChartView(QWidget *parent) : QChartView(parent)
+GyroChartView::GyroChartView(QWidget *parent) : QChartView(new QChart, parent)
 {
-    setChart(new QChart);
     setupSeries();
     setupAxes();
     setupLook();

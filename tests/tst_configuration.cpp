@@ -7,8 +7,8 @@
 namespace {
 const QString ApplicationName = QStringLiteral("Talvor Player V1.6 20200828");
 
-/** The system's locale, which Qt reads early and once. */
-const bool isSystemInChina = qputenv("LC_ALL", "zh_CN.UTF-8");
+/** With this argument the test is a program that tells its language at its first start. */
+const char TellLanguage[] = "--tell-language";
 
 /** What the getters tell. */
 QVariantList settings()
@@ -35,6 +35,8 @@ private slots:
     void defaultValues();
     void settingsReachTheFile();
     void announcements();
+    void firstLanguage_data();
+    void firstLanguage();
     void countryIsRememberedOnce();
 
 private:
@@ -76,8 +78,7 @@ void TestConfiguration::defaultValues()
 {
     const QVariantList folders{mHome->filePath("Pictures/") + ApplicationName,
                                mHome->filePath("Videos")};
-    const QVariantList defaults =
-        folders + QVariantList{13, 2, 0, QRect(483, 166, 921, 628), false};
+    const QVariantList defaults = folders + QVariantList{0, 2, 0, QRect(483, 166, 921, 628), false};
     QCOMPARE(settings(), defaults);
     QVERIFY(!QFileInfo::exists(mPath));
     writeFile("\x7f\xff\xfe\r\x80[\nno settings\n[Other]\nmaps=1");
@@ -130,11 +131,41 @@ void TestConfiguration::announcements()
         configuration->setLanguage(language);
     QCOMPARE(maps, (QList<QPair<int, int>>{{1, 1}, {0, 0}, {2, 2}}));
     QCOMPARE(languages, QList<int>({2, 2, 3}));
+    configuration->setLanguage(French); // whose translation is not part of this program
+    QCOMPARE(languages.size(), 3);
+    QCOMPARE(configuration->language(), EnglishUK);
+}
+
+void TestConfiguration::firstLanguage_data()
+{
+    QTest::addColumn<int>("language");
+    const struct
+    {
+        const char *locale;
+        int language;
+    } rows[] = {{"zh_CN", 0},  {"zh_SG", 0}, {"zh_TW", 1}, {"zh_HK", 1}, {"en_US", 2},
+                {"en_GB", 2},  {"nl_NL", 2}, {"C", 2},     {"fr_CA", 4}, {"it_IT", 5},
+                {"ja_JP", 6},  {"pl_PL", 7}, {"ru_RU", 8}, {"de_AT", 9}, {"es_MX", 10},
+                {"pt_BR", 11}, {"ko_KR", 12}};
+    for (const auto &row : rows)
+        QTest::newRow(row.locale) << row.language;
+}
+
+/** Qt reads the system's locale once, so that each needs a process of its own. */
+void TestConfiguration::firstLanguage()
+{
+    QFETCH(int, language);
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("LC_ALL", QString::fromLatin1(QTest::currentDataTag()) + ".UTF-8");
+    process.setProcessEnvironment(environment);
+    process.start(QCoreApplication::applicationFilePath(), {TellLanguage});
+    QVERIFY(process.waitForFinished());
+    QCOMPARE(process.readAllStandardOutput().trimmed(), QByteArray::number(language));
 }
 
 void TestConfiguration::countryIsRememberedOnce()
 {
-    QVERIFY(isSystemInChina);
     writeFile("[General]\ncountry=abc\n");
     QVERIFY(Configuration::GetInstance()->isChinaMainlandArea());
     QCOMPARE(fileText(), QByteArray("[General]\ncountry=44\n"));
@@ -143,5 +174,18 @@ void TestConfiguration::countryIsRememberedOnce()
     QCOMPARE(fileText(), QByteArray("[General]\ncountry=208\n"));
 }
 
-QTEST_GUILESS_MAIN(TestConfiguration)
+int main(int argc, char *argv[])
+{
+    const bool tellsLanguage = argc == 2 && qstrcmp(argv[1], TellLanguage) == 0;
+    if (!tellsLanguage)
+        qputenv("LC_ALL", "zh_CN.UTF-8");
+    const QCoreApplication application(argc, argv);
+    if (!tellsLanguage) {
+        TestConfiguration test;
+        return QTest::qExec(&test, argc, argv);
+    }
+    QTextStream(stdout) << int(Configuration::GetInstance()->language());
+    return 0;
+}
+
 #include "tst_configuration.moc"

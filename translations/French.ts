@@ -1,0 +1,309 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr_FR" sourcelanguage="en_US">
+<context>
+    <name>ControlPanel</name>
+    <message>
+        <source>0000/00/00 00:00:00</source>
+        <translation>0000/00/00 00:00:00</translation>
+    </message>
+    <message>
+        <source>000 km/h</source>
+        <translation>000 km/h</translation>
+    </message>
+    <message>
+        <source>N00.000000,E000.000000</source>
+        <translation>N00.000000,E000.000000</translation>
+    </message>
+    <message>
+        <source>00:00:00/00:00:00</source>
+        <translation>00:00:00/00:00:00</translation>
+    </message>
+    <message>
+        <source>Open Files</source>
+        <translation>Ouvrir des fichiers</translation>
+    </message>
+    <message>
+        <source>Capture</source>
+        <translation>Capture d’écran</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>Précédent</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Lecture</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Arrêt</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Suivant</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volume</translation>
+    </message>
+    <message>
+        <source>%1 km/h</source>
+        <translation>%1 km/h</translation>
+    </message>
+    <message>
+        <source>%1 MPH</source>
+        <translation>%1 mph</translation>
+    </message>
+</context>
+<context>
+    <name>FComboBox</name>
+    <message>
+        <source>Slow</source>
+        <translation>Ralentir</translation>
+    </message>
+    <message>
+        <source>Quick</source>
+        <translation>Accélérer</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindows</name>
+    <message>
+        <source>MainWindows</source>
+        <translation>Fenêtre principale</translation>
+    </message>
+    <message>
+        <source>Velmora V1.1 - 20190712</source>
+        <translation>Velmora V1.1 - 20190712</translation>
+    </message>
+    <message>
+        <source>Setup</source>
+        <translation>Paramètres</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>Réduire</translation>
+    </message>
+    <message>
+        <source>Maximize</source>
+        <translation>Agrandir</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Restore Down</source>
+        <translation>Restaurer</translation>
+    </message>
+    <message>
+        <source>Open Files</source>
+        <translation>Ouvrir des fichiers</translation>
+    </message>
+    <message>
+        <source>This computer cannot play this video because it does not have the video playback support function required to play H.265 (HEVC).</source>
+        <translation>Cet ordinateur ne peut pas lire cette vidéo, car il ne dispose pas de la fonction de prise en charge nécessaire à la lecture du format H.265 (HEVC).</translation>
+    </message>
+    <message>
+        <source>This computer cannot play this video because it does not have the video playback support function required to play H.264 (AVC).</source>
+        <translation>Cet ordinateur ne peut pas lire cette vidéo, car il ne dispose pas de la fonction de prise en charge nécessaire à la lecture du format H.264 (AVC).</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Erreur</translation>
+    </message>
+</context>
+<context>
+    <name>PlaylistModel</name>
+    <message>
+        <source>File Name</source>
+        <translation>Nom du fichier</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Durée</translation>
+    </message>
+    <message>
+        <source>Create Date</source>
+        <translation>Date de création</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Taille</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Résolution</translation>
+    </message>
+</context>
+<context>
+    <name>QInstaller</name>
+    <message>
+        <source>bytes</source>
+        <translation>octets</translation>
+    </message>
+    <message>
+        <source>KB</source>
+        <translation>Ko</translation>
+    </message>
+    <message>
+        <source>MB</source>
+        <translation>Mo</translation>
+    </message>
+    <message>
+        <source>GB</source>
+        <translation>Go</translation>
+    </message>
+    <message>
+        <source>TB</source>
+        <translation>To</translation>
+    </message>
+    <message>
+        <source>PB</source>
+        <translation>Po</translation>
+    </message>
+    <message>
+        <source>EB</source>
+        <translation>Eo</translation>
+    </message>
+    <message>
+        <source>ZB</source>
+        <translation>Zo</translation>
+    </message>
+    <message>
+        <source>YB</source>
+        <translation>Yo</translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
+    <message>
+        <source>Quellfern</source>
+        <translation>Quellfern</translation>
+    </message>
+</context>
+<context>
+    <name>Setting</name>
+    <message>
+        <source>Dialog</source>
+        <translation>Boîte de dialogue</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Paramètres</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Personal settings</source>
+        <translation>Paramètres personnels</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Langue</translation>
+    </message>
+    <message>
+        <source>(zh-CN)简体中文</source>
+        <translation>(zh-CN)简体中文</translation>
+    </message>
+    <message>
+        <source>(zh-TW)繁體中文</source>
+        <translation>(zh-TW)繁體中文</translation>
+    </message>
+    <message>
+        <source>(en-US)English</source>
+        <translation>(en-US)English</translation>
+    </message>
+    <message>
+        <source>(en-GB)English</source>
+        <translation>(en-GB)English</translation>
+    </message>
+    <message>
+        <source>(fr)Français </source>
+        <translation>(fr)Français </translation>
+    </message>
+    <message>
+        <source>(it)Italiano</source>
+        <translation>(it)Italiano</translation>
+    </message>
+    <message>
+        <source>(jp)日本語 </source>
+        <translation>(jp)日本語 </translation>
+    </message>
+    <message>
+        <source>(pl)Polski</source>
+        <translation>(pl)Polski</translation>
+    </message>
+    <message>
+        <source>(ru)Pусский</source>
+        <translation>(ru)Pусский</translation>
+    </message>
+    <message>
+        <source>(de)Deutsch </source>
+        <translation>(de)Deutsch </translation>
+    </message>
+    <message>
+        <source>(es)Español </source>
+        <translation>(es)Español </translation>
+    </message>
+    <message>
+        <source>(pt)Portuguese</source>
+        <translation>(pt)Portuguese</translation>
+    </message>
+    <message>
+        <source>(ko)한국어</source>
+        <translation>(ko)한국어</translation>
+    </message>
+    <message>
+        <source>Map</source>
+        <translation>Carte</translation>
+    </message>
+    <message>
+        <source>Baidu Maps</source>
+        <translation>Baidu Maps</translation>
+    </message>
+    <message>
+        <source>Google Maps</source>
+        <translation>Google Maps</translation>
+    </message>
+    <message>
+        <source>OpenStreetMap</source>
+        <translation>OpenStreetMap</translation>
+    </message>
+    <message>
+        <source>SpeedUnit</source>
+        <translation>Unité de vitesse</translation>
+    </message>
+    <message>
+        <source>Km/h</source>
+        <translation>km/h</translation>
+    </message>
+    <message>
+        <source>MP/h</source>
+        <translation>mph</translation>
+    </message>
+    <message>
+        <source>Screenshot save path</source>
+        <translation>Dossier des captures</translation>
+    </message>
+    <message>
+        <source>choose</source>
+        <translation>Choisir</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Open Directory</source>
+        <translation>Ouvrir un dossier</translation>
+    </message>
+</context>
+</TS>

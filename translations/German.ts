@@ -1,0 +1,309 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de_DE" sourcelanguage="en_US">
+<context>
+    <name>ControlPanel</name>
+    <message>
+        <source>0000/00/00 00:00:00</source>
+        <translation>0000/00/00 00:00:00</translation>
+    </message>
+    <message>
+        <source>000 km/h</source>
+        <translation>000 km/h</translation>
+    </message>
+    <message>
+        <source>N00.000000,E000.000000</source>
+        <translation>N00.000000,E000.000000</translation>
+    </message>
+    <message>
+        <source>00:00:00/00:00:00</source>
+        <translation>00:00:00/00:00:00</translation>
+    </message>
+    <message>
+        <source>Open Files</source>
+        <translation>Dateien öffnen</translation>
+    </message>
+    <message>
+        <source>Capture</source>
+        <translation>Screenshot</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>Vorherige Datei</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Wiedergabe</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stopp</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Nächste Datei</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Lautstärke</translation>
+    </message>
+    <message>
+        <source>%1 km/h</source>
+        <translation>%1 km/h</translation>
+    </message>
+    <message>
+        <source>%1 MPH</source>
+        <translation>%1 mph</translation>
+    </message>
+</context>
+<context>
+    <name>FComboBox</name>
+    <message>
+        <source>Slow</source>
+        <translation>Langsamer</translation>
+    </message>
+    <message>
+        <source>Quick</source>
+        <translation>Schneller</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindows</name>
+    <message>
+        <source>MainWindows</source>
+        <translation>Hauptfenster</translation>
+    </message>
+    <message>
+        <source>Velmora V1.1 - 20190712</source>
+        <translation>Velmora V1.1 - 20190712</translation>
+    </message>
+    <message>
+        <source>Setup</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>Minimieren</translation>
+    </message>
+    <message>
+        <source>Maximize</source>
+        <translation>Maximieren</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Restore Down</source>
+        <translation>Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Open Files</source>
+        <translation>Dateien öffnen</translation>
+    </message>
+    <message>
+        <source>This computer cannot play this video because it does not have the video playback support function required to play H.265 (HEVC).</source>
+        <translation>Dieser Computer kann dieses Video nicht wiedergeben, da ihm die zur Wiedergabe von H.265 (HEVC) erforderliche Unterstützung fehlt.</translation>
+    </message>
+    <message>
+        <source>This computer cannot play this video because it does not have the video playback support function required to play H.264 (AVC).</source>
+        <translation>Dieser Computer kann dieses Video nicht wiedergeben, da ihm die zur Wiedergabe von H.264 (AVC) erforderliche Unterstützung fehlt.</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+</context>
+<context>
+    <name>PlaylistModel</name>
+    <message>
+        <source>File Name</source>
+        <translation>Dateiname</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Dauer</translation>
+    </message>
+    <message>
+        <source>Create Date</source>
+        <translation>Erstellt am</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Auflösung</translation>
+    </message>
+</context>
+<context>
+    <name>QInstaller</name>
+    <message>
+        <source>bytes</source>
+        <translation>Byte</translation>
+    </message>
+    <message>
+        <source>KB</source>
+        <translation>KB</translation>
+    </message>
+    <message>
+        <source>MB</source>
+        <translation>MB</translation>
+    </message>
+    <message>
+        <source>GB</source>
+        <translation>GB</translation>
+    </message>
+    <message>
+        <source>TB</source>
+        <translation>TB</translation>
+    </message>
+    <message>
+        <source>PB</source>
+        <translation>PB</translation>
+    </message>
+    <message>
+        <source>EB</source>
+        <translation>EB</translation>
+    </message>
+    <message>
+        <source>ZB</source>
+        <translation>ZB</translation>
+    </message>
+    <message>
+        <source>YB</source>
+        <translation>YB</translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
+    <message>
+        <source>Quellfern</source>
+        <translation>Quellfern</translation>
+    </message>
+</context>
+<context>
+    <name>Setting</name>
+    <message>
+        <source>Dialog</source>
+        <translation>Dialog</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Personal settings</source>
+        <translation>Persönliche Einstellungen</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Sprache</translation>
+    </message>
+    <message>
+        <source>(zh-CN)简体中文</source>
+        <translation>(zh-CN)简体中文</translation>
+    </message>
+    <message>
+        <source>(zh-TW)繁體中文</source>
+        <translation>(zh-TW)繁體中文</translation>
+    </message>
+    <message>
+        <source>(en-US)English</source>
+        <translation>(en-US)English</translation>
+    </message>
+    <message>
+        <source>(en-GB)English</source>
+        <translation>(en-GB)English</translation>
+    </message>
+    <message>
+        <source>(fr)Français </source>
+        <translation>(fr)Français </translation>
+    </message>
+    <message>
+        <source>(it)Italiano</source>
+        <translation>(it)Italiano</translation>
+    </message>
+    <message>
+        <source>(jp)日本語 </source>
+        <translation>(jp)日本語 </translation>
+    </message>
+    <message>
+        <source>(pl)Polski</source>
+        <translation>(pl)Polski</translation>
+    </message>
+    <message>
+        <source>(ru)Pусский</source>
+        <translation>(ru)Pусский</translation>
+    </message>
+    <message>
+        <source>(de)Deutsch </source>
+        <translation>(de)Deutsch </translation>
+    </message>
+    <message>
+        <source>(es)Español </source>
+        <translation>(es)Español </translation>
+    </message>
+    <message>
+        <source>(pt)Portuguese</source>
+        <translation>(pt)Portuguese</translation>
+    </message>
+    <message>
+        <source>(ko)한국어</source>
+        <translation>(ko)한국어</translation>
+    </message>
+    <message>
+        <source>Map</source>
+        <translation>Karte</translation>
+    </message>
+    <message>
+        <source>Baidu Maps</source>
+        <translation>Baidu Maps</translation>
+    </message>
+    <message>
+        <source>Google Maps</source>
+        <translation>Google Maps</translation>
+    </message>
+    <message>
+        <source>OpenStreetMap</source>
+        <translation>OpenStreetMap</translation>
+    </message>
+    <message>
+        <source>SpeedUnit</source>
+        <translation>Geschwindigkeitseinheit</translation>
+    </message>
+    <message>
+        <source>Km/h</source>
+        <translation>km/h</translation>
+    </message>
+    <message>
+        <source>MP/h</source>
+        <translation>mph</translation>
+    </message>
+    <message>
+        <source>Screenshot save path</source>
+        <translation>Ordner für Screenshots</translation>
+    </message>
+    <message>
+        <source>choose</source>
+        <translation>Wählen</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Open Directory</source>
+        <translation>Ordner öffnen</translation>
+    </message>
+</context>
+</TS>

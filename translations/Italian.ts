@@ -1,0 +1,309 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="it_IT" sourcelanguage="en_US">
+<context>
+    <name>ControlPanel</name>
+    <message>
+        <source>0000/00/00 00:00:00</source>
+        <translation>0000/00/00 00:00:00</translation>
+    </message>
+    <message>
+        <source>000 km/h</source>
+        <translation>000 km/h</translation>
+    </message>
+    <message>
+        <source>N00.000000,E000.000000</source>
+        <translation>N00.000000,E000.000000</translation>
+    </message>
+    <message>
+        <source>00:00:00/00:00:00</source>
+        <translation>00:00:00/00:00:00</translation>
+    </message>
+    <message>
+        <source>Open Files</source>
+        <translation>Apri file</translation>
+    </message>
+    <message>
+        <source>Capture</source>
+        <translation>Cattura schermata</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>Precedente</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Riproduci</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Ferma</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Successivo</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volume</translation>
+    </message>
+    <message>
+        <source>%1 km/h</source>
+        <translation>%1 km/h</translation>
+    </message>
+    <message>
+        <source>%1 MPH</source>
+        <translation>%1 mph</translation>
+    </message>
+</context>
+<context>
+    <name>FComboBox</name>
+    <message>
+        <source>Slow</source>
+        <translation>Più lento</translation>
+    </message>
+    <message>
+        <source>Quick</source>
+        <translation>Più veloce</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindows</name>
+    <message>
+        <source>MainWindows</source>
+        <translation>Finestra principale</translation>
+    </message>
+    <message>
+        <source>Velmora V1.1 - 20190712</source>
+        <translation>Velmora V1.1 - 20190712</translation>
+    </message>
+    <message>
+        <source>Setup</source>
+        <translation>Impostazioni</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>Riduci a icona</translation>
+    </message>
+    <message>
+        <source>Maximize</source>
+        <translation>Ingrandisci</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+    <message>
+        <source>Restore Down</source>
+        <translation>Ripristina</translation>
+    </message>
+    <message>
+        <source>Open Files</source>
+        <translation>Apri file</translation>
+    </message>
+    <message>
+        <source>This computer cannot play this video because it does not have the video playback support function required to play H.265 (HEVC).</source>
+        <translation>Questo computer non può riprodurre questo video perché non dispone del supporto alla riproduzione video necessario per il formato H.265 (HEVC).</translation>
+    </message>
+    <message>
+        <source>This computer cannot play this video because it does not have the video playback support function required to play H.264 (AVC).</source>
+        <translation>Questo computer non può riprodurre questo video perché non dispone del supporto alla riproduzione video necessario per il formato H.264 (AVC).</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Errore</translation>
+    </message>
+</context>
+<context>
+    <name>PlaylistModel</name>
+    <message>
+        <source>File Name</source>
+        <translation>Nome file</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Durata</translation>
+    </message>
+    <message>
+        <source>Create Date</source>
+        <translation>Data di creazione</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Dimensione</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Risoluzione</translation>
+    </message>
+</context>
+<context>
+    <name>QInstaller</name>
+    <message>
+        <source>bytes</source>
+        <translation>byte</translation>
+    </message>
+    <message>
+        <source>KB</source>
+        <translation>KB</translation>
+    </message>
+    <message>
+        <source>MB</source>
+        <translation>MB</translation>
+    </message>
+    <message>
+        <source>GB</source>
+        <translation>GB</translation>
+    </message>
+    <message>
+        <source>TB</source>
+        <translation>TB</translation>
+    </message>
+    <message>
+        <source>PB</source>
+        <translation>PB</translation>
+    </message>
+    <message>
+        <source>EB</source>
+        <translation>EB</translation>
+    </message>
+    <message>
+        <source>ZB</source>
+        <translation>ZB</translation>
+    </message>
+    <message>
+        <source>YB</source>
+        <translation>YB</translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
+    <message>
+        <source>Quellfern</source>
+        <translation>Quellfern</translation>
+    </message>
+</context>
+<context>
+    <name>Setting</name>
+    <message>
+        <source>Dialog</source>
+        <translation>Finestra di dialogo</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Impostazioni</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+    <message>
+        <source>Personal settings</source>
+        <translation>Impostazioni personali</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Lingua</translation>
+    </message>
+    <message>
+        <source>(zh-CN)简体中文</source>
+        <translation>(zh-CN)简体中文</translation>
+    </message>
+    <message>
+        <source>(zh-TW)繁體中文</source>
+        <translation>(zh-TW)繁體中文</translation>
+    </message>
+    <message>
+        <source>(en-US)English</source>
+        <translation>(en-US)English</translation>
+    </message>
+    <message>
+        <source>(en-GB)English</source>
+        <translation>(en-GB)English</translation>
+    </message>
+    <message>
+        <source>(fr)Français </source>
+        <translation>(fr)Français </translation>
+    </message>
+    <message>
+        <source>(it)Italiano</source>
+        <translation>(it)Italiano</translation>
+    </message>
+    <message>
+        <source>(jp)日本語 </source>
+        <translation>(jp)日本語 </translation>
+    </message>
+    <message>
+        <source>(pl)Polski</source>
+        <translation>(pl)Polski</translation>
+    </message>
+    <message>
+        <source>(ru)Pусский</source>
+        <translation>(ru)Pусский</translation>
+    </message>
+    <message>
+        <source>(de)Deutsch </source>
+        <translation>(de)Deutsch </translation>
+    </message>
+    <message>
+        <source>(es)Español </source>
+        <translation>(es)Español </translation>
+    </message>
+    <message>
+        <source>(pt)Portuguese</source>
+        <translation>(pt)Portuguese</translation>
+    </message>
+    <message>
+        <source>(ko)한국어</source>
+        <translation>(ko)한국어</translation>
+    </message>
+    <message>
+        <source>Map</source>
+        <translation>Mappa</translation>
+    </message>
+    <message>
+        <source>Baidu Maps</source>
+        <translation>Baidu Maps</translation>
+    </message>
+    <message>
+        <source>Google Maps</source>
+        <translation>Google Maps</translation>
+    </message>
+    <message>
+        <source>OpenStreetMap</source>
+        <translation>OpenStreetMap</translation>
+    </message>
+    <message>
+        <source>SpeedUnit</source>
+        <translation>Unità di velocità</translation>
+    </message>
+    <message>
+        <source>Km/h</source>
+        <translation>km/h</translation>
+    </message>
+    <message>
+        <source>MP/h</source>
+        <translation>mph</translation>
+    </message>
+    <message>
+        <source>Screenshot save path</source>
+        <translation>Cartella delle schermate</translation>
+    </message>
+    <message>
+        <source>choose</source>
+        <translation>Scegli</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Salva</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Open Directory</source>
+        <translation>Apri cartella</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,309 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja_JP" sourcelanguage="en_US">
+<context>
+    <name>ControlPanel</name>
+    <message>
+        <source>0000/00/00 00:00:00</source>
+        <translation>0000/00/00 00:00:00</translation>
+    </message>
+    <message>
+        <source>000 km/h</source>
+        <translation>000 km/h</translation>
+    </message>
+    <message>
+        <source>N00.000000,E000.000000</source>
+        <translation>N00.000000,E000.000000</translation>
+    </message>
+    <message>
+        <source>00:00:00/00:00:00</source>
+        <translation>00:00:00/00:00:00</translation>
+    </message>
+    <message>
+        <source>Open Files</source>
+        <translation>ファイルを開く</translation>
+    </message>
+    <message>
+        <source>Capture</source>
+        <translation>スクリーンショット</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>前へ</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>再生</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>次へ</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>音量</translation>
+    </message>
+    <message>
+        <source>%1 km/h</source>
+        <translation>%1 km/h</translation>
+    </message>
+    <message>
+        <source>%1 MPH</source>
+        <translation>%1 mph</translation>
+    </message>
+</context>
+<context>
+    <name>FComboBox</name>
+    <message>
+        <source>Slow</source>
+        <translation>再生速度を下げる</translation>
+    </message>
+    <message>
+        <source>Quick</source>
+        <translation>再生速度を上げる</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindows</name>
+    <message>
+        <source>MainWindows</source>
+        <translation>メインウィンドウ</translation>
+    </message>
+    <message>
+        <source>Velmora V1.1 - 20190712</source>
+        <translation>Velmora V1.1 - 20190712</translation>
+    </message>
+    <message>
+        <source>Setup</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>最小化</translation>
+    </message>
+    <message>
+        <source>Maximize</source>
+        <translation>最大化</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Restore Down</source>
+        <translation>元に戻す (縮小)</translation>
+    </message>
+    <message>
+        <source>Open Files</source>
+        <translation>ファイルを開く</translation>
+    </message>
+    <message>
+        <source>This computer cannot play this video because it does not have the video playback support function required to play H.265 (HEVC).</source>
+        <translation>H.265 (HEVC) の再生に必要な動画再生支援機能がないため、このコンピューターではこの動画を再生できません。</translation>
+    </message>
+    <message>
+        <source>This computer cannot play this video because it does not have the video playback support function required to play H.264 (AVC).</source>
+        <translation>H.264 (AVC) の再生に必要な動画再生支援機能がないため、このコンピューターではこの動画を再生できません。</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>エラー</translation>
+    </message>
+</context>
+<context>
+    <name>PlaylistModel</name>
+    <message>
+        <source>File Name</source>
+        <translation>ファイル名</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>再生時間</translation>
+    </message>
+    <message>
+        <source>Create Date</source>
+        <translation>作成日時</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>サイズ</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>解像度</translation>
+    </message>
+</context>
+<context>
+    <name>QInstaller</name>
+    <message>
+        <source>bytes</source>
+        <translation>バイト</translation>
+    </message>
+    <message>
+        <source>KB</source>
+        <translation>KB</translation>
+    </message>
+    <message>
+        <source>MB</source>
+        <translation>MB</translation>
+    </message>
+    <message>
+        <source>GB</source>
+        <translation>GB</translation>
+    </message>
+    <message>
+        <source>TB</source>
+        <translation>TB</translation>
+    </message>
+    <message>
+        <source>PB</source>
+        <translation>PB</translation>
+    </message>
+    <message>
+        <source>EB</source>
+        <translation>EB</translation>
+    </message>
+    <message>
+        <source>ZB</source>
+        <translation>ZB</translation>
+    </message>
+    <message>
+        <source>YB</source>
+        <translation>YB</translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
+    <message>
+        <source>Quellfern</source>
+        <translation>Quellfern</translation>
+    </message>
+</context>
+<context>
+    <name>Setting</name>
+    <message>
+        <source>Dialog</source>
+        <translation>ダイアログ</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Personal settings</source>
+        <translation>個人設定</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>言語</translation>
+    </message>
+    <message>
+        <source>(zh-CN)简体中文</source>
+        <translation>(zh-CN)简体中文</translation>
+    </message>
+    <message>
+        <source>(zh-TW)繁體中文</source>
+        <translation>(zh-TW)繁體中文</translation>
+    </message>
+    <message>
+        <source>(en-US)English</source>
+        <translation>(en-US)English</translation>
+    </message>
+    <message>
+        <source>(en-GB)English</source>
+        <translation>(en-GB)English</translation>
+    </message>
+    <message>
+        <source>(fr)Français </source>
+        <translation>(fr)Français </translation>
+    </message>
+    <message>
+        <source>(it)Italiano</source>
+        <translation>(it)Italiano</translation>
+    </message>
+    <message>
+        <source>(jp)日本語 </source>
+        <translation>(jp)日本語 </translation>
+    </message>
+    <message>
+        <source>(pl)Polski</source>
+        <translation>(pl)Polski</translation>
+    </message>
+    <message>
+        <source>(ru)Pусский</source>
+        <translation>(ru)Pусский</translation>
+    </message>
+    <message>
+        <source>(de)Deutsch </source>
+        <translation>(de)Deutsch </translation>
+    </message>
+    <message>
+        <source>(es)Español </source>
+        <translation>(es)Español </translation>
+    </message>
+    <message>
+        <source>(pt)Portuguese</source>
+        <translation>(pt)Portuguese</translation>
+    </message>
+    <message>
+        <source>(ko)한국어</source>
+        <translation>(ko)한국어</translation>
+    </message>
+    <message>
+        <source>Map</source>
+        <translation>地図</translation>
+    </message>
+    <message>
+        <source>Baidu Maps</source>
+        <translation>百度地図</translation>
+    </message>
+    <message>
+        <source>Google Maps</source>
+        <translation>Google マップ</translation>
+    </message>
+    <message>
+        <source>OpenStreetMap</source>
+        <translation>OpenStreetMap</translation>
+    </message>
+    <message>
+        <source>SpeedUnit</source>
+        <translation>速度の単位</translation>
+    </message>
+    <message>
+        <source>Km/h</source>
+        <translation>km/h</translation>
+    </message>
+    <message>
+        <source>MP/h</source>
+        <translation>mph</translation>
+    </message>
+    <message>
+        <source>Screenshot save path</source>
+        <translation>スクリーンショットの保存先</translation>
+    </message>
+    <message>
+        <source>choose</source>
+        <translation>選択</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Open Directory</source>
+        <translation>フォルダーを開く</translation>
+    </message>
+</context>
+</TS>
