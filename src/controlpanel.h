@@ -41,7 +41,10 @@ public:
     /** Asks for a stop and shows position 0. */
     void setStoped();
 
+    /** Shows the speed in the configured unit. */
     void setGpsSpeed(int kmh);
+    /** The speed last set, in km/h. */
+    int gpsSpeed() const { return mSpeedKmh; }
     void setGpsDataTime(const QDateTime &dateTime);
     /** Shows both texts as given, in this order. */
     void setLongitudeAndLatitude(const QString &first, const QString &second);

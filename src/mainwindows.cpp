@@ -5,6 +5,7 @@
 #include "ui_mainwindows.h"
 
 #include "appname.h"
+#include "computeinfo.h"
 #include "configuration.h"
 #include "gpsuser.h"
 #include "gyrosampling.h"
@@ -12,19 +13,17 @@
 #include "movefilter.h"
 #include "playlistmodel.h"
 #include "rowdata.h"
+#include "setting.h"
 
 #include <QDateTime>
 #include <QDebug>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QGuiApplication>
 #include <QKeyEvent>
-#include <QPushButton>
-#include <QScreen>
+#include <QMessageBox>
 #include <QTime>
 #include <QTimer>
 
-#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -35,13 +34,6 @@ QFont pixelFont(const QString &family, int pixelSize, QFont::Weight weight)
     font.setPixelSize(pixelSize);
     font.setWeight(weight);
     return font;
-}
-
-bool isOnAnyScreen(const QPoint &point)
-{
-    const QList<QScreen *> screens = QGuiApplication::screens();
-    return std::any_of(screens.begin(), screens.end(),
-                       [&](const QScreen *screen) { return screen->geometry().contains(point); });
 }
 
 /** The hemisphere letter carries the sign. */
@@ -68,7 +60,6 @@ MainWindows::MainWindows(QWidget *parent)
     mUi->wgt_ControlPanel->setFocusPolicy(Qt::StrongFocus);
     setupPlaylist();
     setupControlPanel();
-    disableMissingFeatures();
     setAppName(APP_NAME);
     connectControlPanel();
     connectPlayArea();
@@ -129,6 +120,30 @@ void MainWindows::clearAll()
 {
     clearGauges();
     mUi->wgt_MapView->clearAll();
+}
+
+bool MainWindows::isSuportH264orH265(int row)
+{
+    constexpr int h264 = 1;
+    constexpr int h265 = 2;
+    constexpr int largestSoftwarePicture = 4000000; // pixels
+    const ComputeInfo *computer = ComputeInfo::GetInstance();
+    const bool hasH264 = computer->isHDDecodeH264 && computer->mCpuLevelH;
+    const bool hasH265 = computer->isHDDecodeH265 && computer->mCpuLevelH;
+
+    const int coding = mPlaylistModel->getVideoDecodeType(row);
+    const QSize size = mPlaylistModel->getVideoSize(row);
+    const bool isSmall = qint64(size.width()) * size.height() <= largestSoftwarePicture;
+    if ((coding != h264 && coding != h265) || isSmall || (coding == h264 ? hasH264 : hasH265))
+        return true;
+    const QString message =
+        coding == h265
+            ? tr("This computer cannot play this video because it does not have the video "
+                 "playback support function required to play H.265 (HEVC).")
+            : tr("This computer cannot play this video because it does not have the video "
+                 "playback support function required to play H.264 (AVC).");
+    QMessageBox::warning(nullptr, tr("Error") + QLatin1Char(' ') + computer->hardwareInfo, message);
+    return false;
 }
 
 void MainWindows::onUpdateLanguage()
@@ -219,8 +234,13 @@ void MainWindows::positionChanged(qint64 second, int rowId)
     mPlaylistModel->setCurPlayPosition(rowId, int(second));
 }
 
-// There is no settings dialog yet; the button is disabled.
-void MainWindows::on_pBtn_Step_clicked() {}
+void MainWindows::on_pBtn_Step_clicked()
+{
+    Setting(this).exec();
+    // Told again, both show the speed in the unit that is set now.
+    mUi->wgt_ControlPanel->setGpsSpeed(mUi->wgt_ControlPanel->gpsSpeed());
+    mUi->wgt_Speed->setSpeed(mUi->wgt_Speed->speedKmh());
+}
 
 void MainWindows::on_pBtn_Minimize_clicked()
 {
@@ -302,8 +322,7 @@ void MainWindows::keyPressEvent(QKeyEvent *event)
 
 void MainWindows::closeEvent(QCloseEvent *event)
 {
-    Configuration::GetInstance()->setMainwindowsRect(geometry());
-    Configuration::GetInstance()->setMainwindowsIsMaximize(isMaximized());
+    mGeometry.store();
     ++mRound;
     event->accept();
 }
@@ -315,7 +334,7 @@ void MainWindows::changeEvent(QEvent *event)
     if (event->type() == QEvent::WindowStateChange)
         showMaximizedState();
     else if (event->type() == QEvent::ActivationChange && isActiveWindow())
-        confirmGeometry();
+        mGeometry.confirm();
 }
 
 void MainWindows::installMoving()
@@ -340,14 +359,6 @@ void MainWindows::setupControlPanel()
     panel->setMuted(panel->isMuted());
 }
 
-// What is not part of the program yet must not look as if it could be used.
-void MainWindows::disableMissingFeatures()
-{
-    mUi->pBtn_Step->setEnabled(false);
-    mUi->wgt_ControlPanel->findChild<QPushButton *>(QStringLiteral("btn_ScreenShot"))
-        ->setEnabled(false);
-}
-
 void MainWindows::connectControlPanel()
 {
     const ControlPanel *panel = mUi->wgt_ControlPanel;
@@ -356,6 +367,7 @@ void MainWindows::connectControlPanel()
     connect(panel, &ControlPanel::changeVolume, area, &PlayAreaManager::setVolume);
     connect(panel, &ControlPanel::changeMuting, area, &PlayAreaManager::setMuted);
     connect(panel, &ControlPanel::changeRate, area, &PlayAreaManager::setPlaybackRate);
+    connect(panel, &ControlPanel::screenshot, area, &PlayAreaManager::screenshot);
     connect(panel, &ControlPanel::sliderMoved, area, &PlayAreaManager::seek);
     connect(panel, &ControlPanel::sliderStatusChanged, area,
             &PlayAreaManager::onSliderStatusChanged);
@@ -395,24 +407,9 @@ void MainWindows::connectPlaylistAndSettings()
 
 void MainWindows::restoreGeometryFromSettings()
 {
-    QRect rect = Configuration::GetInstance()->getMainwindowsRect();
-    if (!rect.isValid() || !isOnAnyScreen(rect.center()))
-        rect = Configuration::defaultMainwindowsRect();
     if (Configuration::GetInstance()->getMainwindowsIsMaximize())
         on_pBtn_Maximize_clicked();
-    else
-        setGeometry(rect);
-    mUnconfirmedRect = isMaximized() ? QRect() : rect;
-}
-
-/** Under X11 the position that Qt notes while the window manager takes the window over may be that
- *  inside the manager's own frame. Setting the geometry once more makes it ask again; otherwise
- *  the wrong one would be stored at the end. */
-void MainWindows::confirmGeometry()
-{
-    if (mUnconfirmedRect.isValid() && geometry() != mUnconfirmedRect && !isMaximized())
-        setGeometry(mUnconfirmedRect);
-    mUnconfirmedRect = QRect();
+    mGeometry.restore();
 }
 
 void MainWindows::showMaximizedState()

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "gpsdata.h"
+#include "windowgeometry.h"
 
 #include <QDialog>
 #include <QList>
@@ -54,6 +55,9 @@ public:
     void clearAll();
 
 public slots:
+    /** Whether this computer can be expected to play a row's recording: all that are small, and
+     *  large ones where the hardware decodes them. Otherwise says so in a box, and waits for it. */
+    bool isSuportH264orH265(int row);
     void onUpdateLanguage();
     void openFile();
     /** @param filePath the recording's URL as text. */
@@ -85,12 +89,10 @@ private:
     void installMoving();
     void setupPlaylist();
     void setupControlPanel();
-    void disableMissingFeatures();
     void connectControlPanel();
     void connectPlayArea();
     void connectPlaylistAndSettings();
     void restoreGeometryFromSettings();
-    void confirmGeometry();
 
     void showMaximizedState();
     QList<QUrl> askForRecordings();
@@ -104,7 +106,7 @@ private:
 
     std::unique_ptr<Ui::MainWindows> mUi;
     PlaylistModel *mPlaylistModel = nullptr; // deleted by hand: it goes before the widgets
-    QRect mUnconfirmedRect;                  // set until the window is active for the first time
+    WindowGeometry mGeometry{this};
     int mRound = 0;    // starts and stops: what was begun for an earlier one is given up
     int mFillings = 0; // of the chart: a later one takes over
 };

@@ -41,6 +41,11 @@ QMediaContent mediaOf(const QUrl &url)
     return file.exists() && !file.isFile() ? QMediaContent() : QMediaContent(url);
 }
 
+QSize resolutionOf(const RowData &row)
+{
+    return {row.width, row.height};
+}
+
 qint64 toMilliseconds(int seconds)
 {
     // The product is a 32-bit one; unsigned, because it must not overflow.
@@ -177,6 +182,18 @@ void PlayAreaManager::setPlaybackRate(double rate)
     if (mSecond)
         mSecond->player()->setPlaybackRate(rate);
     holdSyncFor(SettleAfterCommandMs);
+}
+
+void PlayAreaManager::screenshot()
+{
+    if (!mMainRow)
+        return;
+    const qint64 mainMs = mMain->player()->position();
+    const qint64 secondMs = mSecond ? mSecond->player()->position() : 0;
+    const bool isOriginal = !mMainRow->fileName.endsWith(QLatin1String("AVI"), Qt::CaseInsensitive);
+    mMain->screenshot(mainMs, resolutionOf(*mMainRow), isOriginal);
+    if (mSecond && mRelatedRow)
+        mSecond->screenshot(secondMs, resolutionOf(*mRelatedRow), isOriginal);
 }
 
 void PlayAreaManager::update()

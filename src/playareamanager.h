@@ -76,6 +76,8 @@ public slots:
     void setVolume(int volume);
     void setMuted(bool muted);
     void setPlaybackRate(double rate);
+    /** Has an image made of what each player shows; without a main row nothing happens. */
+    void screenshot();
     void update();
     /** Pauses while the seek slider is held; on release seeks to @p seconds and plays on. */
     void onSliderStatusChanged(bool isSliderDown, int seconds);

@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "playerwidget.h"
 
+#include "capturethread.h"
+#include "mediaurl.h"
+
 #include <QDebug>
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -24,12 +27,30 @@ PlayerWidget::PlayerWidget(QWidget *parent) : QVideoWidget(parent)
     setWindowFlag(Qt::BypassWindowManagerHint);
 }
 
-PlayerWidget::~PlayerWidget() = default;
+PlayerWidget::~PlayerWidget()
+{
+    if (mCaptureThread)
+        mCaptureThread->runUnattended();
+}
 
 void PlayerWidget::leaveFullScreen()
 {
     if (isFullScreen())
         changeFullScreen(false);
+}
+
+void PlayerWidget::screenshot(qint64 postion, const QSize &resolution, bool isOriginal)
+{
+    Q_UNUSED(resolution)
+    Q_UNUSED(isOriginal)
+    if (mPlayer.state() == QMediaPlayer::StoppedState)
+        return;
+    if (!mCaptureThread) {
+        mCaptureThread = new CaptureThread;
+        connect(mCaptureThread, &QThread::finished, this, &PlayerWidget::onCaptureThreadFinished);
+    }
+    mCaptureThread->addTask(mediaUrl(mPlayer.media()).path(QUrl::FullyDecoded), postion);
+    mCaptureThread->start();
 }
 
 void PlayerWidget::onStateChanged(QMediaPlayer::State newState)
@@ -49,6 +70,16 @@ void PlayerWidget::onError(QMediaPlayer::Error error)
     qDebug() << "onError" << name.constData() << mPlayer.errorString();
     if (error != QMediaPlayer::NoError)
         setUpdatesEnabled(true);
+}
+
+void PlayerWidget::onCaptureThreadFinished()
+{
+    // The news comes late: by then the worker may have been started again, with a new task.
+    if (!mCaptureThread || mCaptureThread->isRunning())
+        return;
+    qDebug() << "onCaptureThreadFinished, delete mCaptureThread";
+    delete mCaptureThread;
+    mCaptureThread = nullptr;
 }
 
 void PlayerWidget::onApplicationStateChanged(Qt::ApplicationState applicationState)

@@ -5,12 +5,14 @@
 #include <QMediaPlayer>
 #include <QVideoWidget>
 
+class CaptureThread;
 class QKeyEvent;
 
 /**
  * One video player: a video widget with the media player that draws into it. Switches to full
  * screen and back by double click, back by Escape too, and hands the keys that matter in full
- * screen to its owner. Media errors are logged, never shown.
+ * screen to its owner. Has images of its recording made for it. Media errors are logged, never
+ * shown.
  *
  * GUI thread only.
  */
@@ -36,8 +38,13 @@ signals:
     void fullScreen(bool isFull);
 
 public slots:
+    /** Has an image made of the recording at @p postion, in milliseconds, while it is playing or
+     *  paused; else nothing happens. The image is as large as the recording's pictures, whatever
+     *  @p resolution, in pixels, and @p isOriginal say. Returns at once. */
+    void screenshot(qint64 postion, const QSize &resolution, bool isOriginal);
     void onStateChanged(QMediaPlayer::State newState);
     void onError(QMediaPlayer::Error error);
+    void onCaptureThreadFinished();
     /** Full screen ends when another program gets the keyboard: it would cover its window. */
     void onApplicationStateChanged(Qt::ApplicationState applicationState);
 
@@ -51,4 +58,6 @@ private:
     void changeFullScreen(bool isFull);
 
     QMediaPlayer mPlayer;
+    // Deleted by hand when it has finished; one that still runs outlives the widget.
+    CaptureThread *mCaptureThread = nullptr;
 };

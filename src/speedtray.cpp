@@ -42,11 +42,12 @@ SpeedTray::SpeedTray(QWidget *parent)
     update();
 }
 
-void SpeedTray::setSpeed(int speedKmh)
+void SpeedTray::setSpeed(int kmh)
 {
-    if (speedKmh < 0 || speedKmh > MaxSpeed)
+    if (kmh < 0 || kmh > MaxSpeed)
         return;
-    speed = isMetric() ? speedKmh : int(speedKmh / KmPerMile);
+    mSpeedKmh = kmh;
+    speed = isMetric() ? kmh : int(kmh / KmPerMile);
     angle = angleOnDial(speed);
     update();
 }

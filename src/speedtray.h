@@ -23,8 +23,10 @@ public:
 
     /** Shows a speed in km/h, converted to the configured unit. One outside the dial, below 0 or
      *  above 220, changes nothing. */
-    void setSpeed(int speedKmh);
+    void setSpeed(int kmh);
 
+    /** The speed shown, in km/h as it was set. */
+    int speedKmh() const { return mSpeedKmh; }
     /** The number shown, in the unit that was configured when it was set. */
     int shownSpeed() const { return speed; }
     /** Where the needle points, in degrees clockwise from straight up. */
@@ -47,4 +49,5 @@ private:
     QPixmap pixmap;
     int angle = 0;
     int speed = 0;
+    int mSpeedKmh = 0;
 };

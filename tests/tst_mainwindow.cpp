@@ -1,15 +1,24 @@
 // SPDX-FileCopyrightText: 2026 Quellfern
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "computeinfo.h"
 #include "configuration.h"
 #include "mainwindows.h"
+#include "playlistmodel.h"
+#include "recordingwriter.h"
+#include "speedtray.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QLabel>
+#include <QMessageBox>
 #include <QProcess>
 #include <QPushButton>
 #include <QSettings>
 #include <QStandardPaths>
+#include <QTableView>
+#include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 
 #include <memory>
 
@@ -48,6 +57,10 @@ private slots:
     void escapeAndEnterLeaveItOpen();
     void titlesAreElided();
     void changingTheLanguage();
+    void allLanguagesAndBack();
+    void changingTheSpeedUnit();
+    void warnsOfLargeRecordings_data();
+    void warnsOfLargeRecordings();
 
 private:
     void open();
@@ -66,6 +79,8 @@ void tst_MainWindow::init()
     QCoreApplication::setApplicationName(Title);
     Configuration::GetInstance()->setMainwindowsRect(DefaultRect);
     Configuration::GetInstance()->setMainwindowsIsMaximize(false);
+    Configuration::GetInstance()->setMaps(MapBaidu); // which is not waited for
+    Configuration::GetInstance()->setLanguage(EnglishUS);
 }
 
 void tst_MainWindow::cleanup()
@@ -238,6 +253,95 @@ void tst_MainWindow::changingTheLanguage()
     QCOMPARE(child<QLabel>("lbl_FileName")->text(), QString());
     QCOMPARE(child<QPushButton>("pBtn_Maximize")->toolTip(), QStringLiteral("Restore Down"));
     QCOMPARE(QCoreApplication::applicationVersion(), QStringLiteral("1.0.0.090311"));
+}
+
+void tst_MainWindow::allLanguagesAndBack()
+{
+    open();
+    const auto texts = [this] {
+        const QAbstractItemModel *playlist = child<QTableView>("tbl_PlayListView")->model();
+        return QStringList{child<QPushButton>("pBtn_Close")->toolTip(),
+                           child<QPushButton>("btn_Stop")->toolTip(),
+                           playlist->headerData(0, Qt::Horizontal).toString()};
+    };
+    const QStringList english = texts();
+    QCOMPARE(english, QStringList({"Close", "Stop", "File Name"}));
+    QSet<QStringList> seen;
+    for (int language = Chinese; language <= Korean; ++language) {
+        Configuration::GetInstance()->setLanguage(Language_e(language));
+        seen.insert(texts());
+        QCOMPARE(child<QLabel>("lbl_Title")->text(), Title);
+        QCOMPARE(QCoreApplication::organizationName(), QStringLiteral("Quellfern"));
+    }
+    QCOMPARE(seen.size(), 12); // the two kinds of English read the same
+    Configuration::GetInstance()->setLanguage(EnglishUS);
+    QCOMPARE(texts(), english);
+}
+
+void tst_MainWindow::changingTheSpeedUnit()
+{
+    open();
+    const auto *bar = child<QLabel>("pBtn_SP");
+    const auto *gauge = child<SpeedTray>("wgt_Speed");
+    for (const int unit : {1, 0}) {
+        QTimer::singleShot(0, mWindow.get(), [unit] {
+            QWidget *dialog = QApplication::activeModalWidget();
+            dialog->findChild<QComboBox *>("cBox_SpeedUnit")->setCurrentIndex(unit);
+            QTest::mouseClick(dialog->findChild<QPushButton *>("pBtn_OK"), Qt::LeftButton);
+        });
+        QTest::mouseClick(child("pBtn_Step"), Qt::LeftButton);
+        QCOMPARE(Configuration::GetInstance()->speedUnit(), unit);
+        QCOMPARE(bar->text(), unit == 1 ? QString("000 MPH") : QString("000 km/h"));
+        QCOMPARE(gauge->speedText(), unit == 1 ? QString("0 MPH") : QString("0 km/h"));
+    }
+}
+
+void tst_MainWindow::warnsOfLargeRecordings_data()
+{
+    QTest::addColumn<QByteArray>("coding");
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<bool>("isCapable");
+    QTest::addColumn<QString>("warning"); // what it ends with; empty for none
+    const QSize large(3840, 2160);
+    QTest::newRow("large H.265") << QByteArray("hvc1") << large << false << "H.265 (HEVC).";
+    QTest::newRow("large H.264") << QByteArray("avc1") << large << false << "H.264 (AVC).";
+    QTest::newRow("large, other") << QByteArray("vp09") << large << false << "";
+    QTest::newRow("four million") << QByteArray("hvc1") << QSize(2500, 1600) << false << "";
+    QTest::newRow("one more") << QByteArray("hvc1") << QSize(3809, 1051) << false
+                              << "H.265 (HEVC)."; // 4003259
+    QTest::newRow("capable") << QByteArray("hvc1") << large << true << "";
+}
+
+void tst_MainWindow::warnsOfLargeRecordings()
+{
+    QFETCH(QByteArray, coding);
+    QFETCH(QSize, size);
+    QFETCH(bool, isCapable);
+    QFETCH(QString, warning);
+    ComputeInfo *computer = ComputeInfo::GetInstance();
+    computer->isHDDecodeH264 = computer->isHDDecodeH265 = computer->mCpuLevelH = isCapable;
+    const QTemporaryDir folder;
+    RecordingWriter writer;
+    writer.tracks = {Mp4::videoTrack(quint16(size.width()), quint16(size.height()), 300, coding)};
+    QVERIFY(writer.save(folder.filePath("large.mp4")));
+    open();
+    mWindow->openRecordings({QUrl::fromLocalFile(folder.filePath("large.mp4"))});
+    const auto *model =
+        static_cast<const PlaylistModel *>(child<QTableView>("tbl_PlayListView")->model());
+    QTRY_COMPARE(model->getVideoSize(0), size);
+
+    QString text;
+    QTimer box;
+    connect(&box, &QTimer::timeout, this, [&text] {
+        auto *shown = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        if (!shown)
+            return;
+        text = shown->text();
+        shown->accept();
+    });
+    box.start(20);
+    QCOMPARE(mWindow->isSuportH264orH265(0), warning.isEmpty());
+    QVERIFY2(warning.isEmpty() ? text.isEmpty() : text.endsWith(warning), qPrintable(text));
 }
 
 QTEST_MAIN(tst_MainWindow)

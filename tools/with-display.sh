@@ -42,10 +42,15 @@ wait_for 20 test -s "$work/display" ||
 DISPLAY=":$(cat "$work/display")"
 export DISPLAY
 
+# A server that has just started may refuse its first client. The manager announces itself on the
+# root window; before that, windows open unmanaged.
+announced() {
+    kill -0 "$manager" 2>/dev/null || { openbox --sm-disable >"$work/manager.log" 2>&1 & manager=$!; }
+    xprop -root _NET_SUPPORTING_WM_CHECK | grep -q "window id"
+}
 openbox --sm-disable >"$work/manager.log" 2>&1 &
 manager=$!
-# The manager announces itself on the root window; before that, windows open unmanaged.
-wait_for 20 sh -c 'xprop -root _NET_SUPPORTING_WM_CHECK | grep -q "window id"' ||
+wait_for 20 announced ||
     { echo "with-display: the window manager did not start:" >&2; cat "$work/manager.log" >&2; exit 1; }
 
 # The web engine's sandbox refuses to run for root.
