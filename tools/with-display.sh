@@ -45,11 +45,12 @@ export DISPLAY
 # A server that has just started may refuse its first client. The manager announces itself on the
 # root window; before that, windows open unmanaged.
 announced() {
-    kill -0 "$manager" 2>/dev/null || { openbox --sm-disable >"$work/manager.log" 2>&1 & manager=$!; }
+    if [ -z "$manager" ] || ! kill -0 "$manager"; then
+        openbox --sm-disable >"$work/manager.log" 2>&1 &
+        manager=$!
+    fi
     xprop -root _NET_SUPPORTING_WM_CHECK | grep -q "window id"
 }
-openbox --sm-disable >"$work/manager.log" 2>&1 &
-manager=$!
 wait_for 20 announced ||
     { echo "with-display: the window manager did not start:" >&2; cat "$work/manager.log" >&2; exit 1; }
 
