@@ -150,6 +150,7 @@ void GyroChartView::setupLook()
     legend->setFont(pixelFont(LegendFontPixels));
     legend->layout()->setContentsMargins(0, 0, 0, 0);
     setRenderHint(QPainter::Antialiasing);
+    setFocusPolicy(Qt::NoFocus); // a scroll area would take the arrow keys from the window
     chart()->layout()->setContentsMargins(0, 0, 0, 0);
     chart()->setMargins(QMargins());
     chart()->setBackgroundRoundness(0);
