@@ -25,6 +25,7 @@ namespace {
 constexpr int PageLoadMs = 1000;
 constexpr int SettleMs = 500;
 constexpr int EventSliceMs = 100;
+constexpr int CallsPerTurn = 5000; // of a long track, between two turns of the event loop
 constexpr int TileCacheBytes = 100 * 1024 * 1024;
 
 const char GooglePagePrefix[] = "WG_";
@@ -287,8 +288,11 @@ void MapWebView::sendTrackAgain()
 void MapWebView::sendTrack(const QVector<QVector<double>> &track)
 {
     const QString call = QStringLiteral("loadAllGpsDataOfVideo(%1, %2, %3, %4)");
-    for (int i = 0; i < track.size(); ++i) {
+    const int clearCount = mClearCount;
+    for (int i = 0; i < track.size() && clearCount == mClearCount; ++i) {
         const QVector<double> &pair = track.at(i);
         runScript(call.arg(fixed(pair.at(0)), fixed(pair.at(1))).arg(i).arg(track.size()));
+        if (i % CallsPerTurn == CallsPerTurn - 1)
+            QCoreApplication::processEvents();
     }
 }
