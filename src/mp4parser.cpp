@@ -339,7 +339,9 @@ void Mp4Parser::readStszBox(quint64 payload)
     // The product is a 32-bit one and wraps.
     if (qint32(count) > 0)
         sampleFrameRate = roundedFrameRate(count * movieHeader.timeScale, movieHeader.duration);
-    seekForwardTo(start + payload);
+    // Back to where the box ends, if it is too short for the fields.
+    file.seek(qint64(std::min(start, fileSize())));
+    skip(payload);
 }
 
 void Mp4Parser::setTelemetry(int format, quint64 tableOffset, unsigned count)

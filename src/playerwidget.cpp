@@ -129,7 +129,7 @@ void PlayerWidget::keyPressInFullScreen(QKeyEvent *event)
         emit keyPressSignals(event);
         break;
     case Qt::Key_Escape:
-        qDebug() << "Key_Escape, setValue=" << false;
+        qDebug() << "Key_Escape, setValue=false";
         changeFullScreen(false);
         event->accept();
         break;

@@ -118,6 +118,8 @@ void VideoParser::serve()
 
 void VideoParser::waitForEnd()
 {
-    while (isRunning() && !wait(WaitStepMs))
+    while (isRunning() && !wait(WaitStepMs)) {
         QCoreApplication::processEvents();
+        stopParserGpsData(); // an event may have asked for the list, and so for another pass
+    }
 }

@@ -166,6 +166,9 @@ void TestMp4Parser::facts_data()
     const QByteArray goingOn = sampleSizes(300).mid(8) + sampleDescription({"avc1"});
     row("sample sizes are stepped over", "640x480, 10 s, 30 fps, coding 0",
         movie(bentVideo(tables(box("stsz", goingOn)))));
+    row("sample sizes too short for their fields", Whole,
+        movie(bentVideo(tables(box("stsz", QByteArray(8, '\0')) + sampleDescription({"avc1"}) +
+                               sampleSizes(300)))));
     row("header box too small for its fields", Whole,
         box("moov", boxClaiming(8, "mvhd", header.mid(8)) + small));
 
