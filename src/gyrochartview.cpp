@@ -19,6 +19,7 @@ constexpr int WindowSize = 6000;
 constexpr int FirstYRange = 2;
 constexpr int YRangeStep = 2;
 constexpr int YTickCount = 5;
+constexpr float LargestG = 1e6f; // beyond this a reading is no acceleration, and the axis stays
 constexpr qreal CursorWidth = 3.0;
 constexpr int LegendFontPixels = 10;
 constexpr int LabelFontPixels = 12;
@@ -160,7 +161,7 @@ void GyroChartView::setupLook()
 void GyroChartView::growYRange(const GyroData &sample)
 {
     const float most = std::max({std::fabs(sample.x), std::fabs(sample.y), std::fabs(sample.z)});
-    if (!std::isfinite(most) || most < float(yRange))
+    if (!(most < LargestG) || most < float(yRange))
         return;
     yRange += YRangeStep * (int((most - float(yRange)) / YRangeStep) + 1);
     showYRange();

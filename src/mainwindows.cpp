@@ -128,13 +128,12 @@ bool MainWindows::isSuportH264orH265(int row)
     constexpr int h265 = 2;
     constexpr int largestSoftwarePicture = 4000000; // pixels
     const ComputeInfo *computer = ComputeInfo::GetInstance();
-    const bool hasH264 = computer->isHDDecodeH264 && computer->mCpuLevelH;
-    const bool hasH265 = computer->isHDDecodeH265 && computer->mCpuLevelH;
-
     const int coding = mPlaylistModel->getVideoDecodeType(row);
     const QSize size = mPlaylistModel->getVideoSize(row);
-    const bool isSmall = qint64(size.width()) * size.height() <= largestSoftwarePicture;
-    if ((coding != h264 && coding != h265) || isSmall || (coding == h264 ? hasH264 : hasH265))
+    const bool hasHardware = computer->mCpuLevelH &&
+                             (coding == h265 ? computer->isHDDecodeH265 : computer->isHDDecodeH264);
+    if ((coding != h264 && coding != h265) || hasHardware ||
+        qint64(size.width()) * size.height() <= largestSoftwarePicture)
         return true;
     const QString message =
         coding == h265
@@ -153,8 +152,7 @@ void MainWindows::onUpdateLanguage()
     QCoreApplication::setOrganizationName(QObject::tr("Quellfern"));
     QCoreApplication::setApplicationVersion(APP_VERSION);
     setAppName(APP_NAME);
-    // The form has cleared it; it stays clear until the next recording starts.
-    setTitleFileName(QString());
+    setTitleFileName(QString()); // cleared by the form, until the next recording starts
     setWindowTitle(QCoreApplication::applicationName());
     showMaximizedState(); // the form knows one of the two tooltips only
     mUi->wgt_MapView->setMapType(Configuration::GetInstance()->maps());
@@ -209,8 +207,7 @@ void MainWindows::playClicked()
 
 void MainWindows::previousClicked()
 {
-    const QUrl current = mediaUrl(mUi->wgt_PlayArea->media());
-    playByData(mPlaylistModel->getPreviousDataByCurrentUrl(current));
+    playByData(mPlaylistModel->getPreviousDataByCurrentUrl(mediaUrl(mUi->wgt_PlayArea->media())));
 }
 
 // Only the end of the list puts the control bar into its stopped look; its beginning does not.
@@ -288,7 +285,7 @@ void MainWindows::onGpsDataChanged(int rowId, const GpsData &sample)
 
 void MainWindows::onAllGpsDataParserFinished(int rowId, const QList<GpsData> &dataList)
 {
-    if (!isPlayingRow(rowId) || !fillChart(rowId, dataList))
+    if (mIsClosing || !isPlayingRow(rowId) || !fillChart(rowId, dataList))
         return;
     mUi->wgt_PlayArea->play();
     showTrack(rowId, dataList);
@@ -323,7 +320,11 @@ void MainWindows::keyPressEvent(QKeyEvent *event)
 void MainWindows::closeEvent(QCloseEvent *event)
 {
     mGeometry.store();
+    // Whatever waits or is being filled ends now, and the program with it.
+    mIsClosing = true;
     ++mRound;
+    mUi->wgt_PlayArea->stop();
+    mUi->wgt_MapView->dropTrack();
     event->accept();
 }
 
@@ -339,8 +340,8 @@ void MainWindows::changeEvent(QEvent *event)
 
 void MainWindows::installMoving()
 {
-    const MoveFilter *filter = MoveFilter::installMoveFilter(this, this);
-    connect(filter, &MoveFilter::doubleClicked, this, &MainWindows::on_pBtn_Maximize_clicked);
+    connect(MoveFilter::installMoveFilter(this, this), &MoveFilter::doubleClicked, this,
+            &MainWindows::on_pBtn_Maximize_clicked);
     mUi->wgt_Grip->setEnabled(false);
     setSizeGripEnabled(true);
 }
@@ -460,13 +461,14 @@ void MainWindows::clearGauges()
 
 void MainWindows::clearAndAskForTelemetry(int rowId, int round)
 {
+    if (round != mRound)
+        return; // the later start or stop clears the displays
     clearAll();
     if (round == mRound)
         mPlaylistModel->updateAllGpsData(rowId);
 }
 
-/** Events are processed after every point; returns false when playback was started anew or stopped
- *  meanwhile, or the telemetry delivered again. */
+/** Returns false when playback or another filling was begun, or all stopped, between two points. */
 bool MainWindows::fillChart(int rowId, const QList<GpsData> &samples)
 {
     const GyroCurve curve = gyroCurveOf(samples, mPlaylistModel->getCurPlayFileDuration(rowId),
@@ -487,7 +489,6 @@ bool MainWindows::fillChart(int rowId, const QList<GpsData> &samples)
 void MainWindows::showTrack(int rowId, const QList<GpsData> &samples)
 {
     QVector<QVector<double>> track;
-    track.reserve(samples.size());
     for (const GpsData &sample : samples)
         track.append({sample.longitude, sample.latitude});
     qDebug() << "获取某个视频的所有GPS数据，组数：" << track.size();

@@ -109,4 +109,5 @@ private:
     WindowGeometry mGeometry{this};
     int mRound = 0;    // starts and stops: what was begun for an earlier one is given up
     int mFillings = 0; // of the chart: a later one takes over
+    bool mIsClosing = false;
 };

@@ -10,7 +10,9 @@
 #include <QCoreApplication>
 #include <QDebug>
 #include <QDesktopWidget>
+#include <QDir>
 #include <QEvent>
+#include <QLockFile>
 #include <QTime>
 #include <QTimer>
 #include <QUrl>
@@ -19,6 +21,7 @@
 #include <QWindow>
 
 #include <iterator>
+#include <utility>
 
 namespace {
 
@@ -111,6 +114,11 @@ void MapWebView::updatePosition()
     webView->setGeometry(
         QRect(mapToGlobal(QPoint(0, 0)), mapToGlobal(QPoint(width() - 1, height() - 1))));
     showWebView();
+}
+
+void MapWebView::dropTrack()
+{
+    ++mClearCount;
 }
 
 void MapWebView::delay_time(int ms)
@@ -212,7 +220,7 @@ void MapWebView::setupWebView()
     webView = new QWebEngineView(this);
     // A profile with a name keeps its tiles on disk.
     auto *profile = new QWebEngineProfile(QStringLiteral("map"), this);
-    profile->setHttpCacheMaximumSize(TileCacheBytes);
+    keepTilesOnDisk(profile);
     profile->setHttpUserAgent(userAgent());
     webView->setPage(new MapPage(profile, webView));
     connect(webView->page(), &MapPage::loadFinished, this, &MapWebView::onLoadFinished);
@@ -222,6 +230,19 @@ void MapWebView::setupWebView()
     webView->setAttribute(Qt::WA_ShowWithoutActivating);
     webView->setContextMenuPolicy(Qt::NoContextMenu);
     webView->setAcceptDrops(false);
+}
+
+// The cache on disk serves one program at a time; a second one keeps its tiles in memory.
+void MapWebView::keepTilesOnDisk(QWebEngineProfile *profile)
+{
+    profile->setPersistentCookiesPolicy(QWebEngineProfile::NoPersistentCookies);
+    QDir().mkpath(profile->cachePath());
+    mCacheLock = std::make_unique<QLockFile>(profile->cachePath() + QStringLiteral("/lock"));
+    mCacheLock->setStaleLockTime(0);
+    if (mCacheLock->tryLock())
+        profile->setHttpCacheMaximumSize(TileCacheBytes);
+    else
+        profile->setHttpCacheType(QWebEngineProfile::MemoryHttpCache);
 }
 
 /** Only behind the main window: a window manager that hears of the web view first puts it below. */
@@ -244,6 +265,8 @@ void MapWebView::showWebView()
 void MapWebView::loadPage(const QString &fileName)
 {
     mIsPageLoaded = false;
+    ++mPendingLoads;
+    ++mPageCount;
     mHeldCalls.clear();
     webView->page()->profile()->setHttpAcceptLanguage(QLatin1String(ofLanguage(PageLanguages)));
     webView->page()->load(QUrl::fromLocalFile(QCoreApplication::applicationDirPath() +
@@ -253,7 +276,8 @@ void MapWebView::loadPage(const QString &fileName)
 // A load that was given up for the next one reports a failure, and what is held is for that one.
 void MapWebView::onLoadFinished(bool isGood)
 {
-    if (!isGood)
+    --mPendingLoads;
+    if (!isGood && mPendingLoads > 0)
         return;
     mIsPageLoaded = true;
     const QStringList calls = std::exchange(mHeldCalls, {});
@@ -289,10 +313,15 @@ void MapWebView::sendTrack(const QVector<QVector<double>> &track)
 {
     const QString call = QStringLiteral("loadAllGpsDataOfVideo(%1, %2, %3, %4)");
     const int clearCount = mClearCount;
-    for (int i = 0; i < track.size() && clearCount == mClearCount; ++i) {
+    const int page = mPageCount;
+    for (int i = 0; i < track.size() && clearCount == mClearCount && page == mPageCount; ++i) {
         const QVector<double> &pair = track.at(i);
         runScript(call.arg(fixed(pair.at(0)), fixed(pair.at(1))).arg(i).arg(track.size()));
         if (i % CallsPerTurn == CallsPerTurn - 1)
             QCoreApplication::processEvents();
     }
+    // A page that was loaded meanwhile knows nothing of this track.
+    if (page != mPageCount && clearCount == mClearCount &&
+        Configuration::GetInstance()->maps() == MapOpenStreetMap)
+        sendTrack(track);
 }

@@ -9,6 +9,10 @@
 #include <QVector>
 #include <QWidget>
 
+#include <memory>
+
+class QLockFile;
+class QWebEngineProfile;
 class QWebEngineView;
 
 /**
@@ -36,6 +40,8 @@ public:
 
     /** Lays the web view over this widget and shows it. */
     void updatePosition();
+    /** Ends the sending of a track, if one is being sent or about to be. */
+    void dropTrack();
 
     /** Processes events for @p ms milliseconds of the time of day; a wait across midnight ends at
      *  once. */
@@ -67,6 +73,7 @@ private:
     void showWebView();
     void loadPage(const QString &fileName);
     void onLoadFinished(bool isGood);
+    void keepTilesOnDisk(QWebEngineProfile *profile);
     void loadOpenStreetMap();
     void sendTrackAgain();
     void sendTrack(const QVector<QVector<double>> &track);
@@ -76,7 +83,10 @@ private:
     QWidget *topWindow = nullptr; ///< the window that this widget lies in, may be null
     bool allDataLoaded = false;   ///< a track was offered, whether or not the page took it
 
-    bool mIsPageLoaded = false;
+    bool mIsPageLoaded = false; // or will never be: then calls fail in silence
+    int mPendingLoads = 0;
+    int mPageCount = 0;
     QStringList mHeldCalls;
     int mClearCount = 0;
+    std::unique_ptr<QLockFile> mCacheLock;
 };
