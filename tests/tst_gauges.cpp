@@ -127,7 +127,6 @@ private slots:
     void speedText_data();
     void speedText();
     void headings();
-    void compassHub();
     void longGauges();
 };
 
@@ -243,19 +242,6 @@ void TestGauges::headings()
         QVERIFY(qAbs(needle(image).length() - 0.24 * Side) < 1.5);
         for (const auto &[deg, color] : quarters)
             QVERIFY(isColor(colorAt(image, placeAt(image, heading + deg, 40)), color));
-    }
-}
-
-/** Eight pixels and half an outline of one pixel on either side, at every size. */
-void TestGauges::compassHub()
-{
-    DirectionTray compass;
-    const QVector<QPair<int, QRgb>> downwards = {
-        {-6, DarkerRed}, {-4, HubGray}, {3, HubGray}, {5, LightGray}};
-    for (int side : {110, Side}) {
-        const QImage image = picture(&compass, {side, side});
-        for (const auto &[down, color] : downwards)
-            QVERIFY(isColor(image.pixel(side / 2, side / 2 + down), color));
     }
 }
 

@@ -46,7 +46,6 @@ private slots:
     void init();
     void cleanup();
 
-    void layout();
     void restoresGeometry_data();
     void restoresGeometry();
     void closingStoresGeometry();
@@ -93,30 +92,6 @@ void tst_MainWindow::open()
     mWindow = std::make_unique<MainWindows>();
     mWindow->show();
     QVERIFY(QTest::qWaitForWindowActive(mWindow.get()));
-}
-
-void tst_MainWindow::layout()
-{
-    open();
-    QCOMPARE(mWindow->windowTitle(), Title);
-    QCOMPARE(child<QLabel>("lbl_Title")->text(), Title); // whole at the default size
-    QCOMPARE(child("label")->size(), QSize(36, 36));
-    QCOMPARE(child("wgt_Header")->height(), 40);
-    QCOMPARE(child("wgt_PlayCtrl")->height(), 110);
-    QCOMPARE(child("tbl_PlayListView")->height(), 150);
-    QCOMPARE(child("gView_GyroChart")->height(), 155);
-    QVERIFY(child("wgt_Speed")->width() >= 150 && child("wgt_Direction")->width() >= 150);
-    QVERIFY(child("wgt_PlayArea")->height() > 200);
-    QVERIFY(!child("wgt_Grip")->isEnabled());
-
-    int left = 0;
-    for (const char *name : {"pBtn_Step", "pBtn_Minimize", "pBtn_Maximize", "pBtn_Close"}) {
-        const auto *button = child<QPushButton>(name);
-        QCOMPARE(button->size(), QSize(24, 24));
-        QCOMPARE(button->focusPolicy(), Qt::NoFocus);
-        QVERIFY(button->x() >= left);
-        left = button->x() + 24 + 6;
-    }
 }
 
 void tst_MainWindow::restoresGeometry_data()

@@ -60,7 +60,6 @@ private slots:
     void cleanup();
 
     void nudgesUntilThePictureMoves();
-    void resumingNudgesOnce();
     void acceptsDroppedRecordings();
     void keysOutsideFullScreen_data();
     void keysOutsideFullScreen();
@@ -138,21 +137,6 @@ void tst_Playback::nudgesUntilThePictureMoves()
         QCOMPARE(mArea->height(), step.height);
         QCOMPARE(seconds.takeFirst(), QVariantList({step.second, mFront.id}));
     }
-}
-
-void tst_Playback::resumingNudgesOnce()
-{
-    mArea->setResourceData(&mFront, nullptr);
-    mArea->play();
-    QVERIFY(waitForReports(*mArea, 5));
-    mArea->pause();
-    QTRY_COMPARE(mArea->state(), QMediaPlayer::PausedState);
-    const int height = mArea->height();
-    mArea->play();
-    QCOMPARE(std::abs(mArea->height() - height), 1);
-    const int nudged = mArea->height();
-    QVERIFY(waitForReports(*mArea, 5));
-    QCOMPARE(mArea->height(), nudged);
 }
 
 void tst_Playback::acceptsDroppedRecordings()

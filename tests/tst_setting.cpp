@@ -46,7 +46,6 @@ private slots:
     void choosesFolder();
     void tabOrder();
     void standsOverItsParentUntilDragged();
-    void longTextsFit();
 
 private:
     void open(const QByteArray &stored = "language=2\n");
@@ -266,21 +265,6 @@ void TestSetting::standsOverItsParentUntilDragged()
     QMouseEvent move(QEvent::MouseMove, {3, 3}, Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(title, &move);
     QTRY_COMPARE(mDialog->pos(), QPoint(1600 - 450 - 200, 1000 - 340 - 50));
-}
-
-void TestSetting::longTextsFit()
-{
-    LongTexts texts;
-    QCoreApplication::installTranslator(&texts);
-    open();
-    QCoreApplication::removeTranslator(&texts); // is not processed yet
-    QVERIFY(mDialog->layout()->totalMinimumSize().width() <= mDialog->width());
-    for (const QLabel *label : mDialog->findChildren<QLabel *>()) {
-        const QSize size(label->minimumSizeHint().width(), label->heightForWidth(label->width()));
-        QVERIFY2(label->size().expandedTo(size) == label->size(), qPrintable(label->objectName()));
-    }
-    for (const char *name : {"pBtn_Choose", "pBtn_OK", "pBtn_Cancel"})
-        QVERIFY2(child<QWidget>(name)->width() >= child<QWidget>(name)->sizeHint().width(), name);
 }
 
 QTEST_MAIN(TestSetting)
