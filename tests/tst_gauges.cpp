@@ -17,7 +17,6 @@ constexpr QRgb DarkerRed = qRgb(78, 18, 18);
 constexpr QRgb White = qRgb(240, 240, 240);
 constexpr QRgb LightGray = qRgb(190, 190, 190);
 constexpr QRgb TextRed = qRgb(245, 41, 56);
-constexpr QRgb HubGray = qRgb(120, 120, 120);
 
 /** Where the dial has a number, in degrees clockwise from straight up. */
 double scaleDeg(int number)
