@@ -16,7 +16,6 @@ constexpr QRgb DarkRed = qRgb(128, 0, 0);
 constexpr QRgb DarkerRed = qRgb(78, 18, 18);
 constexpr QRgb White = qRgb(240, 240, 240);
 constexpr QRgb LightGray = qRgb(190, 190, 190);
-constexpr QRgb TextRed = qRgb(245, 41, 56);
 
 /** Where the dial has a number, in degrees clockwise from straight up. */
 double scaleDeg(int number)
@@ -81,21 +80,6 @@ double needleErrorDeg(const QImage &image, double expectedDeg)
     return qAbs(std::remainder(90 - needle(image).angle() - expectedDeg, 360));
 }
 
-/** Around the smoothed edges of the written speed too; empty if nothing has its full color. */
-QRect textBounds(const QImage &image)
-{
-    QRect bounds;
-    bool hasFullColor = false;
-    for (int i = image.width() * image.height() / 2; i < image.width() * image.height(); ++i) {
-        const QPoint place(i % image.width(), i / image.width());
-        const QRgb color = image.pixel(place);
-        if (qRed(color) > 130 && qRed(color) > 2 * qGreen(color))
-            bounds |= QRect(place, QSize(1, 1));
-        hasFullColor = hasFullColor || isColor(color, TextRed);
-    }
-    return hasFullColor ? bounds : QRect();
-}
-
 /** The middle of the light pixels around a direction, on the circle that crosses the marks only. */
 double markDeg(const QImage &image, double aroundDeg)
 {
@@ -123,8 +107,6 @@ private slots:
     void speeds_data();
     void speeds();
     void speedNeedle();
-    void speedText_data();
-    void speedText();
     void headings();
     void longGauges();
 };
@@ -195,35 +177,6 @@ void TestGauges::speedNeedle()
         QVERIFY(isColor(colorAt(image, hubEdge - QPointF(0, 1)), DarkRed));
         QVERIFY(!isNeedle(colorAt(image, hubEdge + QPointF(0, 1))));
     }
-}
-
-void TestGauges::speedText_data()
-{
-    QTest::addColumn<QSize>("size");
-    QTest::addColumn<int>("points");
-    QTest::addColumn<double>("line"); // the middle of the line
-    QTest::newRow("large") << QSize(201, 201) << 14 << 0.76 * 201 + 16 / 2.0;
-    QTest::newRow("small and tall") << QSize(200, 400) << 10 << 100 + 0.76 * 200 + 33 / 2.0;
-    QTest::newRow("narrower than the text") << QSize(110, 110) << 10 << 0.76 * 110 + 9 / 2.0;
-}
-
-void TestGauges::speedText()
-{
-    QFETCH(QSize, size);
-    QFETCH(int, points);
-    QFETCH(double, line);
-    SpeedTray gauge;
-    gauge.setSpeed(100);
-    const QImage image = picture(&gauge, size);
-
-    const QFontMetricsF metrics(QFont("Calibri", points));
-    const QString text = "100 km/h";
-    const double left = (size.width() - metrics.horizontalAdvance(text)) / 2;
-    const double baseline = line - metrics.height() / 2 + metrics.ascent();
-    const QRectF expected = metrics.tightBoundingRect(text).translated(left, baseline);
-    const QRectF found = textBounds(image);
-    QVERIFY(QLineF(found.topLeft(), expected.topLeft()).length() < 2.5);
-    QVERIFY(QLineF(found.bottomRight(), expected.bottomRight()).length() < 2.5);
 }
 
 void TestGauges::headings()

@@ -22,7 +22,6 @@ class TestGyroChart : public QObject
 
 private slots:
     void init();
-    void look();
     void yRange_data();
     void yRange();
     void window();
@@ -56,26 +55,6 @@ QString TestGyroChart::axis(Qt::Orientation orientation) const
 {
     const auto *found = qobject_cast<QValueAxis *>(mView->chart()->axes(orientation).value(0));
     return QStringLiteral("%1 to %2").arg(found->min()).arg(found->max());
-}
-
-void TestGyroChart::look()
-{
-    const struct
-    {
-        const char *name;
-        QColor colour;
-    } lines[] = {{"X ", Qt::red}, {"Y ", Qt::green}, {"Z ", Qt::blue}, {"C ", Qt::yellow}};
-    const QList<QAbstractSeries *> series = mView->chart()->series();
-    QCOMPARE(series.size(), 4);
-    for (int i = 0; i < 4; ++i) {
-        auto *line = qobject_cast<QLineSeries *>(series.at(i));
-        QCOMPARE(line->name(), QString(lines[i].name));
-        QCOMPARE(line->pen().color(), lines[i].colour);
-        QCOMPARE(line->attachedAxes().size(), 2);
-    }
-    QCOMPARE(axis(Qt::Horizontal), QString("0 to 6000"));
-    QCOMPARE(axis(Qt::Vertical), QString("-2 to 2"));
-    QVERIFY(!mView->chart()->axes(Qt::Horizontal).first()->isVisible());
 }
 
 void TestGyroChart::yRange_data()

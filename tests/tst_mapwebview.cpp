@@ -70,6 +70,7 @@ private slots:
     void pages();
     void callTexts();
     void tracksAndProviders();
+    void pageChangesUnderATrack();
     void callsWaitForThePage();
     void followsItsPlace();
     void leavesKeyboardAndProgramAlone();
@@ -193,6 +194,30 @@ void TestMapWebView::tracksAndProviders()
     QTimer::singleShot(100, mMap, &MapWebView::clearAll);
     mMap->loadAllGpsData(track); // cleared before it was sent
     QCOMPARE(mMap->calls, QStringList{"mapClearAll();"});
+}
+
+/** A long track lets events pass. The page that has come with them gets all of it. */
+void TestMapWebView::pageChangesUnderATrack()
+{
+    constexpr int count = 6000;
+    mMap->clearAll();
+    mMap->calls.clear();
+    QTimer reload;
+    connect(&reload, &QTimer::timeout, mMap, [&] {
+        if (mMap->calls.isEmpty())
+            return;
+        reload.stop();
+        mMap->setMapType(MapOpenStreetMap);
+    });
+    reload.start(0);
+    mMap->loadAllGpsData(QVector<QVector<double>>(count, {11.5, 48.25}));
+
+    const QString centre = "showMapCenter(151.215, -33.8567);";
+    const int reloadedAt = mMap->calls.indexOf(centre);
+    QVERIFY2(reloadedAt > 0 && reloadedAt < count, qPrintable(QString::number(reloadedAt)));
+    QCOMPARE(mMap->calls.size(), reloadedAt + 1 + count);
+    QCOMPARE(mMap->calls.at(reloadedAt + 1),
+             QString("loadAllGpsDataOfVideo(11.500000, 48.250000, 0, 6000)"));
 }
 
 void TestMapWebView::callsWaitForThePage()

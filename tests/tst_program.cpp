@@ -5,6 +5,7 @@
 #include "directiontray.h"
 #include "gyrochartview.h"
 #include "mainwindows.h"
+#include "mapwebview.h"
 #include "mediafile.h"
 #include "playareamanager.h"
 #include "speedtray.h"
@@ -119,6 +120,8 @@ private slots:
     void droppedRecordingPlays();
     void openDialogPlaysTheFirst();
     void stopResets();
+    void closingWhileTelemetryArrives_data();
+    void closingWhileTelemetryArrives();
     void unplayableFilesDoNoHarm();
 
 private:
@@ -148,6 +151,7 @@ private:
 
 void tst_Program::initTestCase()
 {
+    QApplication::setQuitOnLastWindowClosed(false); // there is a window for each test
     QCoreApplication::setOrganizationName(QStringLiteral("Quellfern"));
     QCoreApplication::setApplicationName(QStringLiteral("Talvor Player V1.6 20200828"));
     QList<TelemetryBlock> samples;
@@ -485,6 +489,44 @@ void tst_Program::stopResets()
     click("btn_PlayOrPause"); // the row is still selected
     QTRY_COMPARE(area()->state(), QMediaPlayer::PlayingState);
     QCOMPARE(text("lbl_FileName"), QStringLiteral("MOVA0001.MP4"));
+}
+
+void tst_Program::closingWhileTelemetryArrives_data()
+{
+    QTest::addColumn<bool>("isChartFilled");
+    QTest::newRow("into the chart") << false;
+    QTest::newRow("into the map") << true;
+}
+
+/** Events pass while chart and map are given a long drive, and closing is one of them. */
+void tst_Program::closingWhileTelemetryArrives()
+{
+    QFETCH(bool, isChartFilled);
+    playPair();
+    pauseAt(5);
+    QTRY_COMPARE(chartLine(0).size(), PairSeconds);
+    QTimer closing;
+    connect(&closing, &QTimer::timeout, mWindow.get(), [&] {
+        if (isChartFilled ? area()->state() == QMediaPlayer::PlayingState
+                          : chartLine(0).size() < PairSeconds)
+            mWindow->close();
+    });
+    closing.start(0);
+    QList<GpsData> drive;
+    for (int i = 0; i < 10000; ++i) {
+        drive.append(GpsData());
+        drive.last().latitude = 1 + i / 1e6;
+    }
+    mWindow->onAllGpsDataParserFinished(0, drive);
+    closing.stop();
+    QVERIFY(!mWindow->isVisible());
+    QTRY_COMPARE(area()->state(), QMediaPlayer::StoppedState);
+
+    // What the page draws with its next point is still the drive before.
+    mWindow->show();
+    child<MapWebView>("wgt_MapView")->addPoint({1, 11, 48});
+    QTRY_COMPARE(map("position"), QString("[11,48]"));
+    QCOMPARE(map("routePoints"), QString::number(PairSeconds));
 }
 
 void tst_Program::unplayableFilesDoNoHarm()
