@@ -28,13 +28,13 @@ double normalized(double angle)
 {
     if (angle < 0) {
         qDebug() << "航向/方位角为负值，请转化成[0 360]之间";
-        const int whole = int(angle);
-        angle = (angle - whole) + (whole % 360 + 360);
+        const double whole = std::trunc(angle);
+        angle = (angle - whole) + (std::fmod(whole, 360.0) + 360.0);
     }
     if (angle > 360) {
         qDebug() << "航向/方位角为大于360，请转化成[0 360]之间";
-        const int whole = int(angle);
-        angle = (angle - whole) + (whole % 360);
+        const double whole = std::trunc(angle);
+        angle = (angle - whole) + std::fmod(whole, 360.0);
     }
     return angle;
 }

@@ -5,7 +5,8 @@
 GyroCurve gyroCurveOf(const QList<GpsData> &samples, int durationS, float frameRate)
 {
     const float sampleCount = float(samples.size());
-    const bool isPerSample = frameRate <= 0.0f || sampleCount < float(durationS - 1) * frameRate;
+    const bool isPerSample =
+        frameRate <= 0.0f || sampleCount < (float(durationS) - 1.0f) * frameRate;
     const float step = isPerSample ? 1.0f : frameRate;
 
     GyroCurve curve;

@@ -58,7 +58,8 @@ MainWindows::MainWindows(QWidget *parent)
     setWindowTitle(APP_NAME);
     installMoving();
     mUi->wgt_ControlPanel->setFocusPolicy(Qt::StrongFocus);
-    setupPlaylist();
+    mPlaylistModel = new PlaylistModel(this);
+    mUi->tbl_PlayListView->setPlaylist(mPlaylistModel);
     setupControlPanel();
     setAppName(APP_NAME);
     connectControlPanel();
@@ -109,6 +110,7 @@ void MainWindows::playByData(const RowData *row)
     mUi->wgt_PlayArea->setResourceData(row, related);
     setTitleFileName(row->url.fileName(QUrl::FullyDecoded));
     clearGauges();
+    mIsStopped = false;
     // Later, because clearing the map processes events: this may be the media backend's own
     // end-of-media handling, which has to finish before the next recording starts.
     const int rowId = row->id;
@@ -179,13 +181,13 @@ void MainWindows::openFile()
 
 void MainWindows::onDropFile(const QString &filePath)
 {
-    const int row = mPlaylistModel->addDataByUrl(QUrl(filePath));
-    mUi->tbl_PlayListView->selectRow(row);
+    mUi->tbl_PlayListView->selectRow(mPlaylistModel->addDataByUrl(QUrl(filePath)));
     onTableDoubleClicked(mUi->tbl_PlayListView->currentIndex());
 }
 
 void MainWindows::onStop()
 {
+    mIsStopped = true;
     ++mRound;
     clearGauges();
     mUi->wgt_PlayArea->stop();
@@ -285,7 +287,7 @@ void MainWindows::onGpsDataChanged(int rowId, const GpsData &sample)
 
 void MainWindows::onAllGpsDataParserFinished(int rowId, const QList<GpsData> &dataList)
 {
-    if (mIsClosing || !isPlayingRow(rowId) || !fillChart(rowId, dataList))
+    if (mIsStopped || !isPlayingRow(rowId) || !fillChart(rowId, dataList))
         return;
     mUi->wgt_PlayArea->play();
     showTrack(rowId, dataList);
@@ -321,7 +323,7 @@ void MainWindows::closeEvent(QCloseEvent *event)
 {
     mGeometry.store();
     // Whatever waits or is being filled ends now, and the program with it.
-    mIsClosing = true;
+    mIsStopped = true;
     ++mRound;
     mUi->wgt_PlayArea->stop();
     mUi->wgt_MapView->dropTrack();
@@ -344,12 +346,6 @@ void MainWindows::installMoving()
             &MainWindows::on_pBtn_Maximize_clicked);
     mUi->wgt_Grip->setEnabled(false);
     setSizeGripEnabled(true);
-}
-
-void MainWindows::setupPlaylist()
-{
-    mPlaylistModel = new PlaylistModel(this);
-    mUi->tbl_PlayListView->setPlaylist(mPlaylistModel);
 }
 
 void MainWindows::setupControlPanel()
@@ -492,7 +488,10 @@ void MainWindows::showTrack(int rowId, const QList<GpsData> &samples)
     for (const GpsData &sample : samples)
         track.append({sample.longitude, sample.latitude});
     qDebug() << "获取某个视频的所有GPS数据，组数：" << track.size();
+    const int filling = mFillings;
     mUi->wgt_MapView->loadAllGpsData(track);
+    if (filling != mFillings)
+        return; // A later recording's track has come in the meantime, and stays.
     delete mUi->wgt_MapView->userData(GPS_USER_DATA_ID);
     mUi->wgt_MapView->setUserData(GPS_USER_DATA_ID, new GPSUser(rowId, track));
     qDebug() << "本地存储每个视频的GPS数据" << track.size();

@@ -87,7 +87,6 @@ protected:
 
 private:
     void installMoving();
-    void setupPlaylist();
     void setupControlPanel();
     void connectControlPanel();
     void connectPlayArea();
@@ -107,7 +106,7 @@ private:
     std::unique_ptr<Ui::MainWindows> mUi;
     PlaylistModel *mPlaylistModel = nullptr; // deleted by hand: it goes before the widgets
     WindowGeometry mGeometry{this};
-    int mRound = 0;    // starts and stops: what was begun for an earlier one is given up
-    int mFillings = 0; // of the chart: a later one takes over
-    bool mIsClosing = false;
+    int mRound = 0;          // starts and stops: what was begun for an earlier one is given up
+    int mFillings = 0;       // of the chart: a later one takes over
+    bool mIsStopped = false; // or closed, and no start since: what is delivered now is too late
 };

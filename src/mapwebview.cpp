@@ -27,6 +27,7 @@ namespace {
 
 constexpr int PageLoadMs = 1000;
 constexpr int SettleMs = 500;
+constexpr int PageStateMs = 20;
 constexpr int EventSliceMs = 100;
 constexpr int CallsPerTurn = 5000; // of a long track, between two turns of the event loop
 constexpr int TileCacheBytes = 100 * 1024 * 1024;
@@ -118,7 +119,7 @@ void MapWebView::updatePosition()
 
 void MapWebView::dropTrack()
 {
-    ++mClearCount;
+    ++mDropCount;
 }
 
 void MapWebView::delay_time(int ms)
@@ -170,11 +171,11 @@ void MapWebView::addPoint(const MapPoint &point)
 
 void MapWebView::clearAll()
 {
-    const int clearCount = ++mClearCount;
+    const int dropCount = ++mDropCount;
     delay_time(SettleMs);
     qDebug() << "ClearAll Map";
     // Another one, called in the meantime, has cleared the map, and a track may be there by now.
-    if (clearCount == mClearCount)
+    if (dropCount == mDropCount)
         runScript(QStringLiteral("mapClearAll();"));
 }
 
@@ -189,9 +190,9 @@ void MapWebView::setWebViewVisible(bool visible)
 
 void MapWebView::loadAllGpsData(QVector<QVector<double>> allGpsData)
 {
-    const int clearCount = mClearCount;
+    const int dropCount = mDropCount;
     delay_time(SettleMs);
-    if (clearCount == mClearCount && Configuration::GetInstance()->maps() == MapOpenStreetMap) {
+    if (dropCount == mDropCount && Configuration::GetInstance()->maps() == MapOpenStreetMap) {
         if (allGpsData.isEmpty()) {
             qDebug() << "地图没有轨迹";
         } else {
@@ -264,21 +265,46 @@ void MapWebView::showWebView()
 
 void MapWebView::loadPage(const QString &fileName)
 {
+    mIsOverlapping = mPageCount > 0 && !mIsPageLoaded;
     mIsPageLoaded = false;
-    ++mPendingLoads;
     ++mPageCount;
+    mPageName = fileName;
     mHeldCalls.clear();
     webView->page()->profile()->setHttpAcceptLanguage(QLatin1String(ofLanguage(PageLanguages)));
     webView->page()->load(QUrl::fromLocalFile(QCoreApplication::applicationDirPath() +
                                               QStringLiteral("/maps/") + fileName));
 }
 
-// A load that was given up for the next one reports a failure, and what is held is for that one.
-void MapWebView::onLoadFinished(bool isGood)
+// Of loads that overlap the web engine reports one end only, and that may be before the last page
+// has its functions.
+void MapWebView::onLoadFinished()
 {
-    --mPendingLoads;
-    if (!isGood && mPendingLoads > 0)
+    if (mIsOverlapping)
+        askPage(mPageCount);
+    else
+        runHeldCalls();
+}
+
+/** Asks again and again: an answer is lost with the page that was asked. */
+void MapWebView::askPage(int page)
+{
+    if (mIsPageLoaded || page != mPageCount)
         return;
+    webView->page()->runJavaScript(
+        QStringLiteral("document.readyState"),
+        [this, page](const QVariant &state) { onPageState(page, state.toString()); });
+    QTimer::singleShot(PageStateMs, this, [this, page] { askPage(page); });
+}
+
+void MapWebView::onPageState(int page, const QString &state)
+{
+    if (!mIsPageLoaded && page == mPageCount && state == QLatin1String("complete") &&
+        webView->page()->url().fileName() == mPageName)
+        runHeldCalls();
+}
+
+void MapWebView::runHeldCalls()
+{
     mIsPageLoaded = true;
     const QStringList calls = std::exchange(mHeldCalls, {});
     for (const QString &call : calls)
@@ -312,16 +338,16 @@ void MapWebView::sendTrackAgain()
 void MapWebView::sendTrack(const QVector<QVector<double>> &track)
 {
     const QString call = QStringLiteral("loadAllGpsDataOfVideo(%1, %2, %3, %4)");
-    const int clearCount = mClearCount;
+    const int dropCount = mDropCount;
     const int page = mPageCount;
-    for (int i = 0; i < track.size() && clearCount == mClearCount && page == mPageCount; ++i) {
+    for (int i = 0; i < track.size() && dropCount == mDropCount && page == mPageCount; ++i) {
         const QVector<double> &pair = track.at(i);
         runScript(call.arg(fixed(pair.at(0)), fixed(pair.at(1))).arg(i).arg(track.size()));
         if (i % CallsPerTurn == CallsPerTurn - 1)
             QCoreApplication::processEvents();
     }
     // A page that was loaded meanwhile knows nothing of this track.
-    if (page != mPageCount && clearCount == mClearCount &&
+    if (page != mPageCount && dropCount == mDropCount &&
         Configuration::GetInstance()->maps() == MapOpenStreetMap)
         sendTrack(track);
 }

@@ -72,7 +72,10 @@ private:
     void setupWebView();
     void showWebView();
     void loadPage(const QString &fileName);
-    void onLoadFinished(bool isGood);
+    void onLoadFinished();
+    void askPage(int page);
+    void onPageState(int page, const QString &state);
+    void runHeldCalls();
     void keepTilesOnDisk(QWebEngineProfile *profile);
     void loadOpenStreetMap();
     void sendTrackAgain();
@@ -83,10 +86,11 @@ private:
     QWidget *topWindow = nullptr; ///< the window that this widget lies in, may be null
     bool allDataLoaded = false;   ///< a track was offered, whether or not the page took it
 
-    bool mIsPageLoaded = false; // or will never be: then calls fail in silence
-    int mPendingLoads = 0;
+    bool mIsPageLoaded = false;  // or will never be: then calls fail in silence
+    bool mIsOverlapping = false; // the page was asked for before the one before it had loaded
     int mPageCount = 0;
+    QString mPageName;
     QStringList mHeldCalls;
-    int mClearCount = 0;
+    int mDropCount = 0; // a track that is older than the last of these is given up
     std::unique_ptr<QLockFile> mCacheLock;
 };

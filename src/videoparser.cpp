@@ -75,12 +75,13 @@ void VideoParser::stopParserGpsData()
 
 void VideoParser::run()
 {
-    const std::unique_ptr<ParserObject> walker = createWalker();
+    std::unique_ptr<ParserObject> walker = createWalker();
     if (!walker->wasCutShort())
         emit videoInfoChanged(id, videoInfoOf(*walker));
     decodeAll(*walker);
     serve();
     position.store(-1, std::memory_order_relaxed);
+    walker.reset();
     qDebug() << "end run" << id;
 }
 

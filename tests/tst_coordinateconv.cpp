@@ -80,7 +80,8 @@ void TestCoordinateConv::nearRightAngle()
 {
     QTest::ignoreMessage(QtDebugMsg, "航向/方位角为负值，请转化成[0 360]之间");
     QTest::ignoreMessage(QtDebugMsg, "航向/方位角为大于360，请转化成[0 360]之间");
-    for (double angle : {81.0, 279.999, -450.5, 810.25}) // the last two are 269.5 and 90.25
+    // The last three are 269.5, 90.25 and, 360e12 having whole turns only, 90.
+    for (double angle : {81.0, 279.999, -450.5, 810.25, 360e12 + 90})
         QVERIFY2(CoordinateConv().IsNearRightAngle(angle), QByteArray::number(angle));
     for (double angle : {100.0, 260.999})
         QVERIFY2(!CoordinateConv().IsNearRightAngle(angle), QByteArray::number(angle));

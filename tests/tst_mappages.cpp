@@ -415,7 +415,7 @@ void tst_MapPages::missingKey_data()
         {"WG_GoogleMapIndex_pt", "O Google Maps requer uma chave própria."},
         {"WG_GoogleMapIndex_ko", "Google 지도를 사용하려면 본인의 키가 필요합니다."},
         {"WG_GoogleMapIndex_en", "Google Maps needs a key of your own."},
-        {"BaiduMapIndex", "百度地图需要您自己的密钥。"}};
+        {"BaiduMapIndex", "百度地図を使うには、ご自身のキーが必要です。"}};
     for (const auto &[page, sentence] : sentences)
         QTest::newRow(page) << QString::fromUtf8(sentence);
 }
@@ -423,6 +423,7 @@ void tst_MapPages::missingKey_data()
 void tst_MapPages::missingKey()
 {
     QFETCH(QString, sentence);
+    mProfile->setHttpAcceptLanguage(QStringLiteral("ja")); // for the page in no language of its own
     open(QLatin1String(QTest::currentDataTag()));
     const QString message = state("message").toString();
     QVERIFY2(message.startsWith(sentence), qPrintable(message));

@@ -3,6 +3,7 @@
 #include "commandline.h"
 #include "configuration.h"
 #include "directiontray.h"
+#include "gpsuser.h"
 #include "gyrochartview.h"
 #include "mainwindows.h"
 #include "mapwebview.h"
@@ -25,6 +26,7 @@
 #include <QTableView>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTestEventLoop>
 #include <QTimer>
 #include <QToolButton>
 #include <QWebEnginePage>
@@ -110,6 +112,7 @@ private slots:
     void fillsChartAndMap_data();
     void fillsChartAndMap();
     void samplesNotToBeShown();
+    void keepsTheTrackThatCameLast();
     void keysAndSeeking();
     void rateVolumeAndMute();
     void fullScreenAndBack();
@@ -243,16 +246,15 @@ QVector<QPointF> tst_Program::chartLine(int index) const
 /** What the page says of itself. */
 QString tst_Program::map(const QString &field) const
 {
-    QString answer;
-    QEventLoop loop; // the test's own waiting leaves the web engine too little time
-    QTimer::singleShot(5000, &loop, &QEventLoop::quit);
+    const auto answer = std::make_shared<QString>(); // which may come too late
     const QString question = QStringLiteral("JSON.stringify(talvorMap.state().%1)").arg(field);
-    mWindow->findChild<QWebEngineView *>()->page()->runJavaScript(question, [&](const QVariant &v) {
-        answer = v.toString();
-        loop.quit();
+    const auto *view = mWindow->findChild<QWebEngineView *>();
+    view->page()->runJavaScript(question, [answer](const QVariant &value) {
+        *answer = value.toString();
+        QTestEventLoop::instance().exitLoop();
     });
-    loop.exec();
-    return answer;
+    QTestEventLoop::instance().enterLoop(5); // QTest::qWait() starves the web engine
+    return *answer;
 }
 
 void tst_Program::fillsChartAndMap_data()
@@ -313,11 +315,26 @@ void tst_Program::samplesNotToBeShown()
 
     click("btn_Stop");
     mWindow->onGpsDataChanged(0, sample);
+    mWindow->onAllGpsDataParserFinished(0, {sample});
     QCOMPARE(gauge->shownSpeed(), 0);
+    QCOMPARE(area()->state(), QMediaPlayer::StoppedState);
     for (int line = 0; line < 4; ++line)
         QVERIFY(chartLine(line).isEmpty());
     QTRY_COMPARE(map("routePoints"), QString("0"));
     QCOMPARE(map("position"), QString("null"));
+}
+
+/** A track is kept for the next page, and sending one lets another be delivered. */
+void tst_Program::keepsTheTrackThatCameLast()
+{
+    playPair();
+    QTimer::singleShot(100, mWindow.get(), [this] {
+        mWindow->onAllGpsDataParserFinished(0, {GpsData(), GpsData()});
+    });
+    mWindow->onAllGpsDataParserFinished(0, {GpsData()});
+    const QObject *view = child<MapWebView>("wgt_MapView");
+    const auto *kept = static_cast<const GPSUser *>(view->userData(GPS_USER_DATA_ID));
+    QCOMPARE(kept->allGpsData.size(), 2);
 }
 
 void tst_Program::keysAndSeeking()
