@@ -12,6 +12,12 @@
 #include <QScreen>
 #include <QWindow>
 
+namespace {
+
+constexpr int ResizeSettleMs = 100;
+
+} // namespace
+
 PlayerWidget::PlayerWidget(QWidget *parent) : QVideoWidget(parent)
 {
     mPlayer.setAudioRole(QAudio::VideoRole);
@@ -21,6 +27,9 @@ PlayerWidget::PlayerWidget(QWidget *parent) : QVideoWidget(parent)
             &PlayerWidget::onError);
     connect(qGuiApp, &QGuiApplication::applicationStateChanged, this,
             &PlayerWidget::onApplicationStateChanged);
+    mFitTimer.setSingleShot(true);
+    mFitTimer.setInterval(ResizeSettleMs);
+    connect(&mFitTimer, &QTimer::timeout, this, &PlayerWidget::fitPausedPicture);
     setUpdatesEnabled(true);
     // In full screen the widget is a window. A window manager that had taken it over would let go
     // of it only after it is back in its parent, and thereby take it out again.
@@ -118,6 +127,19 @@ void PlayerWidget::mouseDoubleClickEvent(QMouseEvent *event)
 void PlayerWidget::mousePressEvent(QMouseEvent *event)
 {
     QWidget::mousePressEvent(event);
+}
+
+void PlayerWidget::resizeEvent(QResizeEvent *event)
+{
+    QVideoWidget::resizeEvent(event);
+    mFitTimer.start();
+}
+
+/** Frames are scaled when they come: a paused player shows its own once more, in the new size. */
+void PlayerWidget::fitPausedPicture()
+{
+    if (mPlayer.state() == QMediaPlayer::PausedState)
+        mPlayer.setPosition(mPlayer.position());
 }
 
 void PlayerWidget::keyPressInFullScreen(QKeyEvent *event)

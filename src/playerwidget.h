@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QMediaPlayer>
+#include <QTimer>
 #include <QVideoWidget>
 
 class CaptureThread;
@@ -52,12 +53,15 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
+    void fitPausedPicture();
     void keyPressInFullScreen(QKeyEvent *event);
     void changeFullScreen(bool isFull);
 
     QMediaPlayer mPlayer;
+    QTimer mFitTimer; // from the last change of the size on
     // Deleted by hand when it has finished; one that still runs outlives the widget.
     CaptureThread *mCaptureThread = nullptr;
 };

@@ -82,17 +82,24 @@ void xdotool(const QString &arguments)
     QCOMPARE(QProcess::execute(QStringLiteral("xdotool"), arguments.split(QLatin1Char(' '))), 0);
 }
 
-/** Whether the screen shows more than a plain ground where the widget is. */
-bool showsPicture(const QWidget *widget)
+/** What the screen shows where the widget is, in 8 x 8 grey fields. */
+QImage fieldsOf(const QWidget *widget)
 {
     const QRect place(widget->mapToGlobal(QPoint(0, 0)), widget->size());
     const QPixmap pixmap = QGuiApplication::primaryScreen()->grabWindow(
         0, place.x(), place.y(), place.width(), place.height());
-    const QImage image = pixmap.toImage().scaled(8, 8);
-    QSet<QRgb> colours;
+    return pixmap.toImage()
+        .scaled(8, 8, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+        .convertToFormat(QImage::Format_Grayscale8);
+}
+
+/** How much fields differ on average, of 255. */
+int difference(const QImage &a, const QImage &b)
+{
+    int sum = 0;
     for (int i = 0; i < 64; ++i)
-        colours.insert(image.pixel(i % 8, i / 8));
-    return colours.size() > 4;
+        sum += qAbs(qGray(a.pixel(i % 8, i / 8)) - qGray(b.pixel(i % 8, i / 8)));
+    return sum / 64;
 }
 
 } // namespace
@@ -380,21 +387,29 @@ void tst_Program::rateVolumeAndMute()
 
 void tst_Program::fullScreenAndBack()
 {
+    constexpr int alike = 8;
     playPair();
+    pauseAt(5);
     for (PlayerWidget *widget : {area()->mainPlayer(), area()->secondPlayer()}) {
         const QRect place = widget->geometry();
+        const QImage fields = fieldsOf(widget);
         QTest::mouseDClick(widget, Qt::LeftButton);
         QTRY_COMPARE(widget->geometry(), QRect(0, 0, 1600, 1000));
         QVERIFY(widget->isFullScreen());
-        xdotool(QStringLiteral("key space")); // it has the keyboard
-        QTRY_COMPARE(area()->state(), QMediaPlayer::PausedState);
+        xdotool(QStringLiteral("key Right")); // it has the keyboard
+        QTRY_COMPARE(second(), 6);
+        xdotool(QStringLiteral("key Left"));
+        QTRY_COMPARE(second(), 5);
+        QTRY_VERIFY(difference(fieldsOf(widget), fields) > alike); // less of it is black
         xdotool(QStringLiteral("key Escape"));
         QTRY_VERIFY(!widget->isFullScreen());
         QTRY_COMPARE(widget->x(), place.x());
         QTRY_COMPARE(widget->width(), place.width());
-        QTRY_VERIFY(showsPicture(widget));
-        xdotool(QStringLiteral("key space")); // and the main window has it back
-        QTRY_COMPARE(area()->state(), QMediaPlayer::PlayingState);
+        QTRY_VERIFY(difference(fieldsOf(widget), fields) <= alike);
+        xdotool(QStringLiteral("key Right")); // and the main window has it back
+        QTRY_COMPARE(second(), 6);
+        xdotool(QStringLiteral("key Left"));
+        QTRY_COMPARE(second(), 5);
     }
 }
 
