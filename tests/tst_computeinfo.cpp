@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Quellfern
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "computeinfo.h"
-#include "decodemodels.h"
 #include "registrydescription.h"
 
 #ifdef Q_OS_LINUX
@@ -83,7 +82,6 @@ private slots:
     void flags_data();
     void flags();
     void registryIsReadInOrder();
-    void whatDecodesH265DecodesH264();
     void singletonProbesThisComputer();
 #ifdef Q_OS_LINUX
     void linuxAdapters();
@@ -163,18 +161,6 @@ NVIDIA dCard H264: "GTX 960"
 isHDDecodeH265 = true
 isHDDecodeH264 = true
 mCpuLevelH = true)");
-}
-
-/** No adapter decodes the newer codec alone: an entry in one list only would be a typing fault. */
-void TestComputeInfo::whatDecodesH265DecodesH264()
-{
-    const DecodeModels models = decodeModels();
-    for (const QString &model : models.intelH265)
-        QVERIFY2(models.intelH264.contains(model), qPrintable(model));
-    for (const QString &model : models.amdH265)
-        QVERIFY2(models.amdH264.contains(model), qPrintable(model));
-    for (const QString &model : models.nvidiaH265)
-        QVERIFY2(models.nvidiaH264.contains(model), qPrintable(model));
 }
 
 /** What the system says here is open, so only the brand on Linux is compared. */

@@ -44,7 +44,6 @@ private slots:
     void leaves_data();
     void leaves();
     void choosesFolder();
-    void tabOrder();
     void standsOverItsParentUntilDragged();
 
 private:
@@ -232,18 +231,6 @@ void TestSetting::choosesFolder()
                  chosen.isEmpty() ? "/old" : mHome->filePath(chosen));
     }
     QCOMPARE(stored(), QByteArray("ScreenshotSavePath=/old\n"));
-}
-
-void TestSetting::tabOrder()
-{
-    open();
-    QStringList order;
-    for (int i = 0; i < 8; ++i) {
-        order.append(QApplication::focusWidget()->objectName());
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-    }
-    QCOMPARE(order, QStringList({"cBox_Language", "cBox_Maps", "cBox_SpeedUnit", "lEdit_SavePath",
-                                 "pBtn_Choose", "pBtn_OK", "pBtn_Cancel", "cBox_Language"}));
 }
 
 /** And on the screen, which has 1600 x 1000 pixels; the parent has 800 x 600. */
