@@ -60,6 +60,7 @@ ControlPanel::ControlPanel(QWidget *parent)
     setupSliders();
     connectButtons();
     connectSliders();
+    mUi->hSlider_Seek->setEnabled(false);
     connect(mUi->fcbox_Rate, &FComboBox::activated, this, &ControlPanel::updateRate);
     connect(Configuration::GetInstance(), &Configuration::updateLanguage, this,
             &ControlPanel::onUpdateLanguage);
@@ -134,6 +135,15 @@ void ControlPanel::reinit()
     setCurrentPosition(0);
 }
 
+void ControlPanel::clearRecording()
+{
+    setMaxDuration(0);
+    setCurrentPosition(0);
+    mUi->lbl_GpsDateTime->setText(tr("0000/00/00 00:00:00"));
+    mUi->lbl_LongitudeAndLatitude->setText(tr("N00.000000,E000.000000"));
+    setGpsSpeed(0);
+}
+
 void ControlPanel::setSliderMove(int deltaSeconds)
 {
     const int target = mUi->hSlider_Seek->value() + deltaSeconds;
@@ -148,8 +158,19 @@ void ControlPanel::setState(QMediaPlayer::State state)
         return;
     mState = state;
     mUi->btn_Stop->setEnabled(state != QMediaPlayer::StoppedState);
+    enableSeeking(state != QMediaPlayer::StoppedState);
     mUi->btn_PlayOrPause->setChecked(state == QMediaPlayer::PlayingState);
     mUi->btn_PlayOrPause->update();
+}
+
+/** Without a recording there is nothing to seek in. */
+void ControlPanel::enableSeeking(bool enabled)
+{
+    // A handle that is being held is let go of, which must not start anything.
+    const QSignalBlocker blocker(mUi->hSlider_Seek);
+    if (!enabled)
+        mUi->hSlider_Seek->setSliderDown(false);
+    mUi->hSlider_Seek->setEnabled(enabled);
 }
 
 void ControlPanel::setVolume(int volume)

@@ -50,6 +50,9 @@ public:
     void setLongitudeAndLatitude(const QString &first, const QString &second);
     /** Shows what stands there without a recording: position 0, no coordinates, speed 0, now. */
     void reinit();
+    /** Shows what stands there before anything is known of a recording: position and duration 0,
+     *  and no telemetry. */
+    void clearRecording();
     /** Asks for a seek by @p deltaSeconds; nothing while stopped or beyond the recording. */
     void setSliderMove(int deltaSeconds);
 
@@ -85,6 +88,7 @@ protected:
     bool eventFilter(QObject *object, QEvent *event) override;
 
 private:
+    void enableSeeking(bool enabled);
     void fillRates();
     void setupSliders();
     void connectButtons();

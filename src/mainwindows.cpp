@@ -7,15 +7,15 @@
 #include "appname.h"
 #include "computeinfo.h"
 #include "configuration.h"
-#include "gpsuser.h"
 #include "gyrosampling.h"
 #include "mediaurl.h"
 #include "movefilter.h"
+#include "pendingstart.h"
 #include "playlistmodel.h"
 #include "rowdata.h"
 #include "setting.h"
+#include "telemetrydisplays.h"
 
-#include <QDateTime>
 #include <QDebug>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -24,9 +24,10 @@
 #include <QTime>
 #include <QTimer>
 
-#include <cmath>
-
 namespace {
+
+// So long a recording that cannot be played holds up the list.
+constexpr int UnplayablePauseMs = 4000;
 
 QFont pixelFont(const QString &family, int pixelSize, QFont::Weight weight)
 {
@@ -34,12 +35,6 @@ QFont pixelFont(const QString &family, int pixelSize, QFont::Weight weight)
     font.setPixelSize(pixelSize);
     font.setWeight(weight);
     return font;
-}
-
-/** The hemisphere letter carries the sign. */
-QString coordinateText(char reference, double degrees)
-{
-    return QLatin1Char(reference) + QString::number(std::fabs(degrees), 'f', 6);
 }
 
 } // namespace
@@ -61,6 +56,7 @@ MainWindows::MainWindows(QWidget *parent)
     mPlaylistModel = new PlaylistModel(this);
     mUi->tbl_PlayListView->setPlaylist(mPlaylistModel);
     setupControlPanel();
+    setupPlayback();
     setAppName(APP_NAME);
     connectControlPanel();
     connectPlayArea();
@@ -72,6 +68,7 @@ MainWindows::~MainWindows()
 {
     // Waiting for the workers processes events, which must not reach this window any more.
     mUi->wgt_PlayArea->disconnect(this);
+    mPendingStart->drop();
     mUi->wgt_PlayArea->stop();
     mUi->wgt_PlayArea->forgetRows();
     mPlaylistModel->disconnect(this);
@@ -105,23 +102,17 @@ void MainWindows::playByData(const RowData *row)
         return;
     mUi->tbl_PlayListView->selectRow(row->id);
     mUi->wgt_PlayArea->stop();
-    const RowData *related = mPlaylistModel->getRelateDataByMainData(*row);
-    mUi->wgt_PlayArea->setPlayerNum(related ? 2 : 1);
-    mUi->wgt_PlayArea->setResourceData(row, related);
-    setTitleFileName(row->url.fileName(QUrl::FullyDecoded));
-    clearGauges();
     mIsStopped = false;
-    // Later, because clearing the map processes events: this may be the media backend's own
-    // end-of-media handling, which has to finish before the next recording starts.
-    const int rowId = row->id;
-    const int round = ++mRound;
-    QTimer::singleShot(0, this, [this, rowId, round] { clearAndAskForTelemetry(rowId, round); });
+    mCameByItself = false;
+    giveUpRound();
+    mPendingStart->request(row);
+    setTitleFileName(row->url.fileName(QUrl::FullyDecoded));
+    mDisplays->clearRecording();
 }
 
 void MainWindows::clearAll()
 {
-    clearGauges();
-    mUi->wgt_MapView->clearAll();
+    mDisplays->clearAll();
 }
 
 bool MainWindows::isSuportH264orH265(int row)
@@ -164,10 +155,13 @@ void MainWindows::openFile()
 {
     qDebug() << "open file--";
     const QList<QUrl> urls = askForRecordings();
+    int firstRow = -1;
     int lastRow = -1;
     for (const QUrl &url : urls) {
-        if (!QFileInfo(url.toLocalFile()).isDir())
-            lastRow = mPlaylistModel->addDataByUrl(url);
+        if (QFileInfo(url.toLocalFile()).isDir())
+            continue;
+        lastRow = mPlaylistModel->addDataByUrl(url);
+        firstRow = firstRow < 0 ? lastRow : firstRow;
     }
     if (lastRow < 0)
         return;
@@ -175,7 +169,8 @@ void MainWindows::openFile()
     Configuration::GetInstance()->setVideoFilePath(folder);
     qDebug() << "all file count:" << lastRow;
     qDebug() << "select file count:" << urls.size();
-    mUi->tbl_PlayListView->selectRow(lastRow - urls.size() + 1);
+    // Some may have been in the list before, anywhere.
+    mUi->tbl_PlayListView->selectRow(firstRow);
     onTableDoubleClicked(mUi->tbl_PlayListView->currentIndex());
 }
 
@@ -188,12 +183,15 @@ void MainWindows::onDropFile(const QString &filePath)
 void MainWindows::onStop()
 {
     mIsStopped = true;
-    ++mRound;
-    clearGauges();
+    giveUpRound();
+    mPendingStart->drop();
+    mDisplays->clearGauges();
     mUi->wgt_PlayArea->stop();
     mUi->wgt_ControlPanel->reinit();
     setTitleFileName(QString());
-    QTimer::singleShot(0, this, &MainWindows::clearAll); // for the same reason as at a start
+    // Later, because clearing the map processes events: this may be the media backend's own
+    // end-of-media handling, which has to finish first.
+    QTimer::singleShot(0, this, &MainWindows::clearAll);
 }
 
 void MainWindows::playClicked()
@@ -209,14 +207,16 @@ void MainWindows::playClicked()
 
 void MainWindows::previousClicked()
 {
-    playByData(mPlaylistModel->getPreviousDataByCurrentUrl(mediaUrl(mUi->wgt_PlayArea->media())));
+    playByData(mPlaylistModel->getPreviousDataByCurrentUrl(currentUrl()));
 }
 
 // Only the end of the list puts the control bar into its stopped look; its beginning does not.
 void MainWindows::nextClicked()
 {
-    const QUrl current = mediaUrl(mUi->wgt_PlayArea->media());
-    if (const RowData *next = mPlaylistModel->getNextDataByCurrentUrl(current))
+    // The last whole second has begun, but the recording goes on to its end.
+    if (mIsReportingPosition)
+        return;
+    if (const RowData *next = mPlaylistModel->getNextDataByCurrentUrl(currentUrl()))
         playByData(next);
     else
         mUi->wgt_ControlPanel->setStoped();
@@ -229,16 +229,16 @@ void MainWindows::durationChanged(qint64 duration)
 
 void MainWindows::positionChanged(qint64 second, int rowId)
 {
+    mIsReportingPosition = true;
     mUi->wgt_ControlPanel->setCurrentPosition(int(second));
+    mIsReportingPosition = false;
     mPlaylistModel->setCurPlayPosition(rowId, int(second));
 }
 
 void MainWindows::on_pBtn_Step_clicked()
 {
     Setting(this).exec();
-    // Told again, both show the speed in the unit that is set now.
-    mUi->wgt_ControlPanel->setGpsSpeed(mUi->wgt_ControlPanel->gpsSpeed());
-    mUi->wgt_Speed->setSpeed(mUi->wgt_Speed->speedKmh());
+    mDisplays->showSpeedUnit();
 }
 
 void MainWindows::on_pBtn_Minimize_clicked()
@@ -269,33 +269,68 @@ void MainWindows::onTableDoubleClicked(const QModelIndex &index)
 
 void MainWindows::onGpsDataChanged(int rowId, const GpsData &sample)
 {
-    ControlPanel *panel = mUi->wgt_ControlPanel;
-    if (panel->state() == QMediaPlayer::StoppedState || !isPlayingRow(rowId))
-        return;
-    // Latitude first, whatever the name says: the bar reads like its placeholder.
-    panel->setLongitudeAndLatitude(coordinateText(sample.latitudeRef, sample.latitude),
-                                   coordinateText(sample.longitudeRef, sample.longitude));
-    panel->setGpsDataTime(
-        QDateTime::fromString(QLatin1String(sample.time), QStringLiteral("yyyyMMddhhmmss")));
-    panel->setGpsSpeed(sample.speed);
-    mUi->wgt_Speed->setSpeed(sample.speed);
-    mUi->wgt_Direction->setDirection(int(sample.direction));
-    mUi->gView_GyroChart->setCurAxis(sample.id);
-    if (sample.longitude != 0.0 || sample.latitude != 0.0)
-        mUi->wgt_MapView->addPoint({sample.id, sample.longitude, sample.latitude});
+    if (mUi->wgt_ControlPanel->state() != QMediaPlayer::StoppedState && isPlayingRow(rowId))
+        mDisplays->showSample(sample);
 }
 
 void MainWindows::onAllGpsDataParserFinished(int rowId, const QList<GpsData> &dataList)
 {
-    if (mIsStopped || !isPlayingRow(rowId) || !fillChart(rowId, dataList))
+    if (mIsStopped || !isPlayingRow(rowId))
         return;
+    const GyroCurve curve = gyroCurveOf(dataList, mPlaylistModel->getCurPlayFileDuration(rowId),
+                                        mPlaylistModel->getVideoframerate(rowId));
+    if (!mDisplays->fillChart(curve))
+        return;
+    // The worker has offered the first sample before, when there was nothing to show it beside.
+    if (mUi->wgt_PlayArea->state() == QMediaPlayer::StoppedState)
+        mFirstSample = dataList.mid(0, 1);
     mUi->wgt_PlayArea->play();
-    showTrack(rowId, dataList);
+    mDisplays->showTrack(rowId, dataList);
+}
+
+void MainWindows::onPlaybackStateChanged(QMediaPlayer::State state)
+{
+    if (state != QMediaPlayer::PlayingState)
+        return;
+    const QList<GpsData> samples = std::exchange(mFirstSample, {});
+    for (const GpsData &sample : samples)
+        mDisplays->showSample(sample);
+}
+
+void MainWindows::onRecordingDue(const RowData *row)
+{
+    const RowData *related = mPlaylistModel->getRelateDataByMainData(*row);
+    mUi->wgt_PlayArea->setPlayerNum(related ? 2 : 1);
+    mUi->wgt_PlayArea->setResourceData(row, related);
+    const int rowId = row->id;
+    const int round = mRound;
+    clearAll();
+    if (round == mRound)
+        mPlaylistModel->updateAllGpsData(rowId);
+}
+
+void MainWindows::onRecordingEnded()
+{
+    if (mIsStopped || mPendingStart->row())
+        return;
+    nextClicked();
+    mCameByItself = true;
+}
+
+void MainWindows::onRecordingFailed()
+{
+    if (!mCameByItself)
+        return;
+    const int round = mRound;
+    QTimer::singleShot(UnplayablePauseMs, this, [this, round] {
+        if (round == mRound)
+            onRecordingEnded();
+    });
 }
 
 void MainWindows::onKeyPressEvent(QKeyEvent *event)
 {
-    if (controlPlayback(event->key()))
+    if (controlPlayback(*event))
         event->accept();
 }
 
@@ -312,7 +347,7 @@ void MainWindows::keyPressEvent(QKeyEvent *event)
         // lost the keyboard to this window.
         mUi->wgt_PlayArea->leaveFullScreen();
         event->accept();
-    } else if (controlPlayback(event->key())) {
+    } else if (controlPlayback(*event)) {
         event->accept();
     } else {
         QDialog::keyPressEvent(event);
@@ -324,7 +359,8 @@ void MainWindows::closeEvent(QCloseEvent *event)
     mGeometry.store();
     // Whatever waits or is being filled ends now, and the program with it.
     mIsStopped = true;
-    ++mRound;
+    giveUpRound();
+    mPendingStart->drop();
     mUi->wgt_PlayArea->stop();
     mUi->wgt_MapView->dropTrack();
     event->accept();
@@ -354,6 +390,15 @@ void MainWindows::setupControlPanel()
     panel->setState(mUi->wgt_PlayArea->state());
     panel->setVolume(mUi->wgt_PlayArea->volume());
     panel->setMuted(panel->isMuted());
+}
+
+void MainWindows::setupPlayback()
+{
+    mDisplays = std::make_unique<TelemetryDisplays>(
+        TelemetryDisplays::Widgets{mUi->wgt_ControlPanel, mUi->wgt_Speed, mUi->wgt_Direction,
+                                   mUi->gView_GyroChart, mUi->wgt_MapView});
+    mPendingStart = new PendingStart(mUi->wgt_PlayArea, this);
+    connect(mPendingStart, &PendingStart::due, this, &MainWindows::onRecordingDue);
 }
 
 void MainWindows::connectControlPanel()
@@ -387,6 +432,11 @@ void MainWindows::connectPlayArea()
     connect(area, &PlayAreaManager::keyPressSignals, this, &MainWindows::onKeyPressEvent);
     connect(area, &PlayAreaManager::fullScreenChanged, this, &MainWindows::onFullScreenChanged);
     connect(area, &PlayAreaManager::dropFile, this, &MainWindows::onDropFile);
+    connect(area, &PlayAreaManager::stateChanged, this, &MainWindows::onPlaybackStateChanged);
+    // Later, because the media backend is in the middle of its own handling of the end.
+    connect(area, &PlayAreaManager::ended, this, &MainWindows::onRecordingEnded,
+            Qt::QueuedConnection);
+    connect(area, &PlayAreaManager::failed, this, &MainWindows::onRecordingFailed);
 }
 
 void MainWindows::connectPlaylistAndSettings()
@@ -425,11 +475,12 @@ QList<QUrl> MainWindows::askForRecordings()
     return dialog.exec() == QDialog::Accepted ? dialog.selectedUrls() : QList<QUrl>();
 }
 
-bool MainWindows::controlPlayback(int key)
+bool MainWindows::controlPlayback(const QKeyEvent &event)
 {
-    switch (key) {
+    switch (event.key()) {
     case Qt::Key_Space:
-        mUi->wgt_ControlPanel->playClicked();
+        if (!event.isAutoRepeat())
+            mUi->wgt_ControlPanel->playClicked();
         return true;
     case Qt::Key_Left:
         mUi->wgt_ControlPanel->setSliderMove(-1);
@@ -445,54 +496,23 @@ bool MainWindows::controlPlayback(int key)
 /** Whether a delivery for this row is still wanted. */
 bool MainWindows::isPlayingRow(int rowId) const
 {
+    if (mPendingStart->row())
+        return false;
     const RowData *playing = mUi->wgt_PlayArea->mainRow();
     return rowId == (playing ? playing->id : -1);
 }
 
-void MainWindows::clearGauges()
+/** What is before and after it in the list are the previous and the next recording. */
+QUrl MainWindows::currentUrl() const
 {
-    mUi->wgt_Speed->setSpeed(0);
-    mUi->gView_GyroChart->clearAll();
+    const RowData *pending = mPendingStart->row();
+    return pending ? pending->url : mediaUrl(mUi->wgt_PlayArea->media());
 }
 
-void MainWindows::clearAndAskForTelemetry(int rowId, int round)
+/** What was begun for the recording before does not go on. */
+void MainWindows::giveUpRound()
 {
-    if (round != mRound)
-        return; // the later start or stop clears the displays
-    clearAll();
-    if (round == mRound)
-        mPlaylistModel->updateAllGpsData(rowId);
-}
-
-/** Returns false when playback or another filling was begun, or all stopped, between two points. */
-bool MainWindows::fillChart(int rowId, const QList<GpsData> &samples)
-{
-    const GyroCurve curve = gyroCurveOf(samples, mPlaylistModel->getCurPlayFileDuration(rowId),
-                                        mPlaylistModel->getVideoframerate(rowId));
-    const int round = mRound;
-    const int filling = ++mFillings;
-    mUi->gView_GyroChart->clearAll();
-    mUi->gView_GyroChart->setAxisXRange(curve.xRange);
-    for (const GyroData &point : curve.points) {
-        mUi->gView_GyroChart->insertPoints(point);
-        QCoreApplication::processEvents();
-        if (round != mRound || filling != mFillings)
-            return false;
-    }
-    return true;
-}
-
-void MainWindows::showTrack(int rowId, const QList<GpsData> &samples)
-{
-    QVector<QVector<double>> track;
-    for (const GpsData &sample : samples)
-        track.append({sample.longitude, sample.latitude});
-    qDebug() << "获取某个视频的所有GPS数据，组数：" << track.size();
-    const int filling = mFillings;
-    mUi->wgt_MapView->loadAllGpsData(track);
-    if (filling != mFillings)
-        return; // A later recording's track has come in the meantime, and stays.
-    delete mUi->wgt_MapView->userData(GPS_USER_DATA_ID);
-    mUi->wgt_MapView->setUserData(GPS_USER_DATA_ID, new GPSUser(rowId, track));
-    qDebug() << "本地存储每个视频的GPS数据" << track.size();
+    ++mRound;
+    mDisplays->giveUpFilling();
+    mFirstSample.clear();
 }

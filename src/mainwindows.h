@@ -7,13 +7,16 @@
 
 #include <QDialog>
 #include <QList>
+#include <QMediaPlayer>
 #include <QModelIndex>
 
 #include <memory>
 
+class PendingStart;
 class PlaylistModel;
 class QKeyEvent;
 class QUrl;
+class TelemetryDisplays;
 struct RowData;
 
 namespace Ui {
@@ -88,6 +91,7 @@ protected:
 private:
     void installMoving();
     void setupControlPanel();
+    void setupPlayback();
     void connectControlPanel();
     void connectPlayArea();
     void connectPlaylistAndSettings();
@@ -96,17 +100,23 @@ private:
     void showMaximizedState();
     QList<QUrl> askForRecordings();
     /** Handles the keys that control playback; returns whether it was one. */
-    bool controlPlayback(int key);
+    bool controlPlayback(const QKeyEvent &event);
+    void onRecordingDue(const RowData *row);
+    void onPlaybackStateChanged(QMediaPlayer::State state);
+    void onRecordingEnded();
+    void onRecordingFailed();
     bool isPlayingRow(int rowId) const;
-    void clearGauges();
-    void clearAndAskForTelemetry(int rowId, int round);
-    bool fillChart(int rowId, const QList<GpsData> &samples);
-    void showTrack(int rowId, const QList<GpsData> &samples);
+    QUrl currentUrl() const;
+    void giveUpRound();
 
     std::unique_ptr<Ui::MainWindows> mUi;
     PlaylistModel *mPlaylistModel = nullptr; // deleted by hand: it goes before the widgets
     WindowGeometry mGeometry{this};
-    int mRound = 0;          // starts and stops: what was begun for an earlier one is given up
-    int mFillings = 0;       // of the chart: a later one takes over
-    bool mIsStopped = false; // or closed, and no start since: what is delivered now is too late
+    std::unique_ptr<TelemetryDisplays> mDisplays;
+    PendingStart *mPendingStart = nullptr; // a child
+    int mRound = 0;                        // starts and stops: those before are given up
+    bool mIsStopped = false;    // or closed, and no start since: what is delivered now is too late
+    bool mCameByItself = false; // the recording, because the one before it had ended
+    bool mIsReportingPosition = false;
+    QList<GpsData> mFirstSample; // to be shown when playback begins, if there is one
 };

@@ -15,6 +15,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdlib>
+#include <utility>
 
 namespace {
 
@@ -34,6 +35,11 @@ constexpr int SeekCheckDelayMs = 300;
 constexpr qint64 LostSeekBeforeMs = -300;
 constexpr qint64 LostSeekAfterMs = 1500;
 
+// A busy computer needs a second to start again after a seek.
+constexpr qint64 StuckAfterMs = 2500;
+constexpr int MaxRestarts = 2;
+constexpr int ReportsOfMotion = 5; // more than a seek brings by itself
+
 /** What the player is given: nothing for a pipe or a device, whose opening may wait for ever. */
 QMediaContent mediaOf(const QUrl &url)
 {
@@ -41,9 +47,47 @@ QMediaContent mediaOf(const QUrl &url)
     return file.exists() && !file.isFile() ? QMediaContent() : QMediaContent(url);
 }
 
+/** After a move, which some sources propose, they would delete the camera's file. */
+void acceptCopy(QDropEvent *event)
+{
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+}
+
+/** Sets a variable of the environment for as long as it lives. */
+class ScopedVariable
+{
+public:
+    ScopedVariable(const char *name, const QByteArray &value)
+        : mName(name), mWasSet(qEnvironmentVariableIsSet(name)), mBefore(qgetenv(name))
+    {
+        qputenv(name, value);
+    }
+    ~ScopedVariable()
+    {
+        if (mWasSet)
+            qputenv(mName, mBefore);
+        else
+            qunsetenv(mName);
+    }
+    Q_DISABLE_COPY(ScopedVariable)
+
+private:
+    const char *mName;
+    bool mWasSet;
+    QByteArray mBefore;
+};
+
 QSize resolutionOf(const RowData &row)
 {
     return {row.width, row.height};
+}
+
+/** Whether a player has moved since the last look at it (-1 for none), which this one becomes. */
+bool hasMoved(qint64 &seenMs, qint64 nowMs)
+{
+    const qint64 beforeMs = std::exchange(seenMs, nowMs);
+    return beforeMs >= 0 && beforeMs != nowMs;
 }
 
 qint64 toMilliseconds(int seconds)
@@ -80,13 +124,28 @@ void PlayAreaManager::setPlayerNum(int num)
 
 void PlayAreaManager::setResourceData(const RowData *main, const RowData *related)
 {
-    mMain->player()->setMedia(mediaOf(main->url));
+    ++mRound;
+    mRestarts = 0;
+    mSecondWaits = false;
+    mMain->loader()->load(mediaOf(main->url));
     if (mSecond)
-        mSecond->player()->setMedia(mediaOf(related->url));
+        mSecond->loader()->load(mediaOf(related->url));
     mMainRow = main;
     mRelatedRow = related;
     mSecondPositionMs = 0;
     mSecondEndMs = 0;
+}
+
+void PlayAreaManager::unload()
+{
+    mMain->loader()->unload();
+    if (mSecond)
+        mSecond->loader()->unload();
+}
+
+bool PlayAreaManager::isSettled() const
+{
+    return !mMain->loader()->isLoading() && !(mSecond && mSecond->loader()->isLoading());
 }
 
 void PlayAreaManager::forgetRows()
@@ -130,7 +189,7 @@ bool PlayAreaManager::isRecordingName(const QString &text)
 void PlayAreaManager::play()
 {
     const bool wasPaused = state() == QMediaPlayer::PausedState;
-    mMain->player()->play();
+    mMain->loader()->play();
     playSecond();
     holdSyncFor(SettleAfterCommandMs);
     if (wasPaused)
@@ -141,18 +200,21 @@ void PlayAreaManager::play()
 
 void PlayAreaManager::pause()
 {
-    mMain->player()->pause();
+    mSecondWaits = false;
+    mMain->loader()->pause();
     // A second recording that has ended would be rewound by a pause.
     if (mSecond && secondHasSomethingAt(mMain->player()->position()))
-        mSecond->player()->pause();
+        mSecond->loader()->pause();
 }
 
 void PlayAreaManager::stop()
 {
+    ++mRound;
+    mSecondWaits = false;
     mSeekCheck.stop();
-    mMain->player()->stop();
+    mMain->loader()->stop();
     if (mSecond)
-        mSecond->player()->stop();
+        mSecond->loader()->stop();
 }
 
 void PlayAreaManager::seek(int seconds)
@@ -210,16 +272,18 @@ void PlayAreaManager::onSliderStatusChanged(bool isSliderDown, int seconds)
         pause();
         return;
     }
-    QMediaPlayer *main = mMain->player();
-    if (main->position() / 1000 != seconds)
+    // Whoever hears of the new position may stop, or go on to another recording, which the rest
+    // is not meant for.
+    const int round = mRound;
+    if (mMain->player()->position() / 1000 != seconds)
         seekMain(toMilliseconds(seconds));
-    main->play();
-    if (mSecond) {
-        if (mSecond->player()->position() / 1000 != seconds)
-            seekSecond(toMilliseconds(seconds));
-        if (secondHasSomethingAt(toMilliseconds(seconds)))
-            mSecond->player()->play();
-    }
+    if (round == mRound)
+        mMain->loader()->play();
+    if (round != mRound)
+        return;
+    if (mSecond && mSecond->player()->position() / 1000 != seconds)
+        seekSecond(toMilliseconds(seconds));
+    playSecond();
     holdSyncFor(SettleAfterCommandMs);
     nudgeGeometry();
 }
@@ -238,14 +302,14 @@ void PlayAreaManager::onPositionChanged(qint64 position)
 void PlayAreaManager::dragEnterEvent(QDragEnterEvent *event)
 {
     if (!droppedRecordings(*event->mimeData()).isEmpty())
-        event->acceptProposedAction();
+        acceptCopy(event);
 }
 
 void PlayAreaManager::dropEvent(QDropEvent *event)
 {
     const QStringList recordings = droppedRecordings(*event->mimeData());
     if (!recordings.isEmpty())
-        event->acceptProposedAction();
+        acceptCopy(event);
     for (const QString &recording : recordings)
         emit dropFile(recording);
 }
@@ -275,8 +339,11 @@ void PlayAreaManager::relayMainPlayer()
     connect(player, &QMediaPlayer::mutedChanged, this, &PlayAreaManager::mutedChanged);
     connect(player, &QMediaPlayer::durationChanged, this, &PlayAreaManager::durationChanged);
     connect(player, &QMediaPlayer::positionChanged, this, &PlayAreaManager::relayPosition);
-    connect(player, &QMediaPlayer::mediaStatusChanged, this,
-            &PlayAreaManager::onMainMediaStatusChanged);
+    const MediaLoader *loader = mMain->loader();
+    connect(loader, &MediaLoader::loaded, this, &PlayAreaManager::onMainLoaded);
+    connect(loader, &MediaLoader::failed, this, &PlayAreaManager::onMainFailed);
+    connect(loader, &MediaLoader::ended, this, &PlayAreaManager::ended);
+    connect(loader, &MediaLoader::settled, this, &PlayAreaManager::noteSettled);
     relayKeysAndFullScreen(mMain);
 }
 
@@ -288,14 +355,26 @@ void PlayAreaManager::relayPosition(qint64 positionMs)
     if (isLate)
         return;
     onPositionChanged(positionMs);
+    freeIfStuck(mMain->player()->position());
     keepInStep();
 }
 
-void PlayAreaManager::onMainMediaStatusChanged(QMediaPlayer::MediaStatus status)
+void PlayAreaManager::onMainLoaded()
 {
-    // The second recording never plays on its own: nothing could stop it.
-    if (status == QMediaPlayer::InvalidMedia && mSecond)
-        mSecond->player()->stop();
+    if (mSecondWaits && state() == QMediaPlayer::PlayingState)
+        playSecond();
+}
+
+void PlayAreaManager::onMainFailed()
+{
+    stop();
+    emit failed();
+}
+
+void PlayAreaManager::noteSettled()
+{
+    if (isSettled())
+        emit settled();
 }
 
 void PlayAreaManager::noteSecondPosition(qint64 positionMs)
@@ -305,10 +384,9 @@ void PlayAreaManager::noteSecondPosition(qint64 positionMs)
         mSecondPositionMs = positionMs;
 }
 
-void PlayAreaManager::onSecondMediaStatusChanged(QMediaPlayer::MediaStatus status)
+void PlayAreaManager::onSecondEnded()
 {
-    if (status == QMediaPlayer::EndOfMedia)
-        mSecondEndMs = mSecondPositionMs;
+    mSecondEndMs = mSecondPositionMs;
 }
 
 void PlayAreaManager::relayKeysAndFullScreen(PlayerWidget *player)
@@ -327,14 +405,19 @@ void PlayAreaManager::createSecond()
 {
     if (mSecond)
         return;
-    mSecond = new PlayerWidget(this);
+    {
+        // It is never heard. With two streams, a sound server often does not start the second one
+        // again after a seek, and the picture stands with it.
+        const ScopedVariable noSound("QT_GSTREAMER_PLAYBIN_AUDIOSINK", "fakeaudiosink");
+        mSecond = new PlayerWidget(this);
+    }
     QMediaPlayer *player = mSecond->player();
     player->setMuted(true);
     player->setVolume(volume());
     player->setNotifyInterval(NotifyIntervalMs);
     connect(player, &QMediaPlayer::positionChanged, this, &PlayAreaManager::noteSecondPosition);
-    connect(player, &QMediaPlayer::mediaStatusChanged, this,
-            &PlayAreaManager::onSecondMediaStatusChanged);
+    connect(mSecond->loader(), &MediaLoader::ended, this, &PlayAreaManager::onSecondEnded);
+    connect(mSecond->loader(), &MediaLoader::settled, this, &PlayAreaManager::noteSettled);
     relayKeysAndFullScreen(mSecond);
 }
 
@@ -349,8 +432,9 @@ void PlayAreaManager::destroySecond()
     // Not at once: this may run inside one of its own events, or in the end-of-media handling of
     // the other player.
     mSecond->player()->disconnect(this);
+    mSecond->loader()->disconnect(this);
     mSecond->disconnect(this);
-    mSecond->player()->stop();
+    mSecond->loader()->stop();
     mSecond->hide();
     mSecond->setParent(nullptr);
     mSecond->deleteLater();
@@ -370,9 +454,14 @@ QStringList PlayAreaManager::droppedRecordings(const QMimeData &data)
 {
     QStringList recordings;
     const QList<QUrl> urls = data.urls();
-    for (const QUrl &url : urls) {
+    for (QUrl url : urls) {
+        if (url.host() == QLatin1String("localhost"))
+            url.setHost(QString());
         const QString text = url.toString();
-        // Required: the text is a URL, not a path, so that this never finds a folder.
+        if (!url.isLocalFile() || !url.host().isEmpty())
+            continue;
+        // The text is a URL, not a path: a folder is told by its ending only, as a link is that
+        // leads nowhere yet.
         if (!QFileInfo(text).isDir() && isRecordingName(text))
             recordings.append(text);
     }
@@ -395,12 +484,14 @@ bool PlayAreaManager::secondHasSomethingAt(qint64 positionMs) const
 
 void PlayAreaManager::playSecond()
 {
-    if (!mSecond || mMain->player()->mediaStatus() == QMediaPlayer::InvalidMedia)
+    // It never plays on its own: nothing would stop it.
+    mSecondWaits = !mMain->loader()->isLoaded();
+    if (!mSecond || mSecondWaits)
         return;
     QMediaPlayer *second = mSecond->player();
     // One that has ended would start again from its beginning.
     if (secondHasSomethingAt(mMain->player()->position()))
-        second->play();
+        mSecond->loader()->play();
     second->setMuted(true);
     second->setPlaybackRate(mMain->player()->playbackRate());
 }
@@ -425,11 +516,30 @@ void PlayAreaManager::repeatLostSeeks()
     }
 }
 
+/** With a sound server, one seek in a hundred leaves the stream held for ever, and the picture
+ * waits for its clock. Neither seeks nor pauses free it. */
+void PlayAreaManager::freeIfStuck(qint64 mainMs)
+{
+    const bool shouldMove = state() == QMediaPlayer::PlayingState && mMain->loader()->isLoaded() &&
+                            mainMs + EndMarginMs < mMain->player()->duration();
+    const bool stands = shouldMove && mainMs == mStandsAtMs;
+    mStandsAtMs = shouldMove ? mainMs : -1;
+    mReportsMoved = stands ? 0 : mReportsMoved + 1;
+    if (!stands)
+        mStanding.start();
+    if (mReportsMoved >= ReportsOfMotion)
+        mRestarts = 0;
+    if (stands && mStanding.elapsed() > StuckAfterMs && mRestarts < MaxRestarts) {
+        ++mRestarts;
+        mMain->loader()->restart();
+    }
+}
+
 void PlayAreaManager::seekSecond(qint64 positionMs)
 {
     QMediaPlayer *second = mSecond->player();
     if (!secondHasSomethingAt(positionMs)) {
-        second->stop();
+        mSecond->loader()->stop();
         return;
     }
     second->setPosition(positionMs);
@@ -443,6 +553,8 @@ void PlayAreaManager::holdSyncFor(qint64 settleMs)
     mSinceCommand.start();
     mSettleMs = settleMs;
     mReportsOff = 0;
+    mMainSeenMs = -1;
+    mSecondSeenMs = -1;
     mCorrectionPending = false;
 }
 
@@ -455,13 +567,20 @@ void PlayAreaManager::keepInStep()
         return;
     const QMediaPlayer *second = mSecond->player();
     const qint64 mainMs = mMain->player()->position();
-    if (secondEndMs() <= 0 || mainMs + EndMarginMs >= secondEndMs())
+    const qint64 secondMs = second->position();
+    const bool mainMoves = hasMoved(mMainSeenMs, mainMs);
+    const bool secondMoves = hasMoved(mSecondSeenMs, secondMs);
+    if (!mainMoves || secondEndMs() <= 0 || mainMs + EndMarginMs >= secondEndMs())
         return;
     if (second->state() != QMediaPlayer::PlayingState) {
         rejoin(mainMs);
         return;
     }
-    const qint64 aheadMs = second->position() - mainMs;
+    // One that has not started again after a seek is on its way: another seek would only hold it
+    // up.
+    if (!secondMoves)
+        return;
+    const qint64 aheadMs = secondMs - mainMs;
     learnSeekLag(aheadMs);
     if (std::abs(aheadMs) <= ToleranceMs) {
         mReportsOff = 0;

@@ -35,6 +35,13 @@ public:
     /** Loads the recordings without starting them. @p related must not be null with two players. */
     void setResourceData(const RowData *main, const RowData *related);
 
+    /** Takes the recordings away from the players, so that nothing of them is still under way when
+     *  the next ones are loaded. The rows stay set. */
+    void unload();
+    /** Whether the media backend has done its work on what was loaded. Loading something else
+     *  before that may make it abort the program. */
+    bool isSettled() const;
+
     /** Lets go of the rows, before their owner destroys them. */
     void forgetRows();
     /** Ends a player's full screen, if there is one. */
@@ -42,7 +49,8 @@ public:
 
     /** The row of the main recording, null until one has been set. */
     const RowData *mainRow() const { return mMainRow; }
-    /** Media, state and volume (0 to 100, linear) of the main player. */
+    /** Media, state and volume (0 to 100, linear) of the main player. The media are those of the
+     *  main row even if the player has been given none. */
     QMediaContent media() const;
     QMediaPlayer::State state() const;
     int volume() const;
@@ -67,6 +75,12 @@ signals:
     void fullScreenChanged(bool fullScreen);
     /** One dropped recording, as URL text. */
     void dropFile(const QString &filePath);
+    /** The main recording has been played to its end. */
+    void ended();
+    /** The main recording cannot be played. Nothing plays then. */
+    void failed();
+    /** isSettled() has become true. */
+    void settled();
 
 public slots:
     void play();
@@ -93,9 +107,11 @@ private:
     void createLayouts();
     void relayMainPlayer();
     void relayPosition(qint64 positionMs);
-    void onMainMediaStatusChanged(QMediaPlayer::MediaStatus status);
+    void onMainLoaded();
+    void onMainFailed();
+    void noteSettled();
     void noteSecondPosition(qint64 positionMs);
-    void onSecondMediaStatusChanged(QMediaPlayer::MediaStatus status);
+    void onSecondEnded();
     void relayKeysAndFullScreen(PlayerWidget *player);
     void addToLayout(PlayerWidget *player);
     void createSecond();
@@ -108,6 +124,7 @@ private:
     void seekMain(qint64 positionMs);
     void seekSecond(qint64 positionMs);
     void repeatLostSeeks();
+    void freeIfStuck(qint64 mainMs);
     void holdSyncFor(qint64 settleMs);
     void keepInStep();
     void rejoin(qint64 mainMs);
@@ -121,13 +138,24 @@ private:
     const RowData *mRelatedRow = nullptr;
     bool mNudgePending = false;
     bool mNudgeGrows = true;
+    bool mSecondWaits = false; // to be played as soon as the main recording has been loaded
+    int mRound = 0;            // loads and stops
 
     // Keeping in step: nothing is measured before the players have settled after a command.
     QElapsedTimer mSinceCommand;
     qint64 mSettleMs = 0;
     int mReportsOff = 0;
+    // At the last report since then, -1 before the first: one that stands is given its time.
+    qint64 mMainSeenMs = -1;
+    qint64 mSecondSeenMs = -1;
     qint64 mSeekLagMs = 0;
     bool mCorrectionPending = false;
+
+    // How long the main player has been standing while it should play.
+    QElapsedTimer mStanding;
+    qint64 mStandsAtMs = -1;
+    int mReportsMoved = 0; // in a row
+    int mRestarts = 0;     // since it moved for a while
 
     // The last seek, until it is certain that both players have made it.
     QTimer mSeekCheck;

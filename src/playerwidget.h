@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "medialoader.h"
+
 #include <QMediaPlayer>
 #include <QTimer>
 #include <QVideoWidget>
@@ -28,6 +30,9 @@ public:
     /** The embedded player, owned by the widget. */
     QMediaPlayer *player() { return &mPlayer; }
     const QMediaPlayer *player() const { return &mPlayer; }
+    /** What loads, plays and stops recordings in the embedded player; owned by the widget. */
+    MediaLoader *loader() { return &mLoader; }
+    const MediaLoader *loader() const { return &mLoader; }
 
     /** Leaves full screen, if it is in it, and gives the keyboard back to the main window. */
     void leaveFullScreen();
@@ -61,6 +66,7 @@ private:
     void changeFullScreen(bool isFull);
 
     QMediaPlayer mPlayer;
+    MediaLoader mLoader{&mPlayer};
     QTimer mFitTimer; // from the last change of the size on
     // Deleted by hand when it has finished; one that still runs outlives the widget.
     CaptureThread *mCaptureThread = nullptr;

@@ -160,6 +160,9 @@ void TestControlPanel::dragging()
     mPanel->grab();
     QSlider *seek = slider("hSlider_Seek");
     const QPoint centre = seek->rect().center();
+    QTest::mouseClick(seek, Qt::LeftButton, {}, centre); // there is nothing to seek in
+    QCOMPARE(requests(), QString());
+    mPanel->setState(QMediaPlayer::PlayingState);
     // Far from the handle, which jumps there.
     QTest::mousePress(seek, Qt::LeftButton, {}, {seek->width() * 3 / 4, centre.y()});
     const int start = seek->sliderPosition();
@@ -177,6 +180,13 @@ void TestControlPanel::dragging()
 
     QTest::mouseRelease(seek, Qt::LeftButton, {}, centre);
     QCOMPARE(requests(), QStringLiteral("sliderStatusChanged false %1").arg(middle));
+
+    QTest::mousePress(seek, Qt::LeftButton, {}, centre);
+    requests();
+    mPanel->setState(QMediaPlayer::StoppedState); // lets go of it, and asks for nothing
+    QTest::mouseRelease(seek, Qt::LeftButton, {}, centre);
+    QCOMPARE(requests(), QString());
+    QVERIFY(!seek->isSliderDown());
 }
 
 void TestControlPanel::readOuts()
