@@ -62,6 +62,8 @@ VideoParser::~VideoParser()
 {
     stopParserGpsData();
     waitForEnd();
+    wait();                   // for the very end, where a thread deletes its dispatcher
+    delete eventDispatcher(); // of a thread that could not be started
 }
 
 void VideoParser::start(const QUrl &newUrl, int newId, int delay)
