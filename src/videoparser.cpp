@@ -112,7 +112,6 @@ void VideoParser::launch()
 void VideoParser::answerWithoutThread()
 {
     qWarning() << "no thread to read the recording with, row:" << id << url.fileName();
-    running.store(false, std::memory_order_relaxed);
     if (sendAll.exchange(false, std::memory_order_relaxed)) {
         const auto answer = [this, row = id] { emit allGpsDataParserFinished(row, {}); };
         QMetaObject::invokeMethod(this, answer, Qt::QueuedConnection);

@@ -33,8 +33,9 @@ class VideoParser : public QThread
     Q_OBJECT
 
 public:
-    /** As many recordings are read at once, not counting those that have been asked for. */
-    static constexpr int MaxOpenRecordings = 16;
+    /** As many recordings are read at once, not counting those that have been asked for. More
+     *  would be done no sooner, and would take the processor from window and playback. */
+    static constexpr int MaxOpenRecordings = 4;
 
     /** Registers the meta-types that cross threads. */
     explicit VideoParser(QObject *parent = nullptr);

@@ -251,6 +251,8 @@ void TestPlaylistModel::telemetryUntilCleared()
 
     mModel->clearAllData();
     QCOMPARE(mModel->rowCount(), 0);
+    add({"second.mp4"}); // is no duplicate any more
+    QCOMPARE(mModel->rowCount(), 1);
 }
 
 void TestPlaylistModel::rowWithoutThread()
