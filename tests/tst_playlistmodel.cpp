@@ -278,15 +278,15 @@ void TestPlaylistModel::rowWithoutThread()
     QCOMPARE(lists.last().last().value<QList<GpsData>>().size(), 3);
 }
 
-/** Far more rows than descriptors. Workers look for requests every 800 ms; when all are told at
- *  once, the last ends after that. */
+/** Far more rows than descriptors. Workers look for requests every 800 ms: told one after the
+ *  other, so many end after minutes, told at once after one such time. */
 void TestPlaylistModel::manyRows()
 {
     constexpr int rowCount = 300;
     const QUrl url = recording("ride.mp4");
     const ResourceLimit few(RLIMIT_NOFILE, 64);
-    const QDir descriptors("/proc/self/fd");
-    const uint before = descriptors.count();
+    const auto descriptors = [] { return QDir("/proc/self/fd").count(); };
+    const uint before = descriptors();
     // The tester reads every row again for each that is added.
     delete mModel->findChild<QAbstractItemModelTester *>();
     QSignalSpy changes(mModel.get(), &QAbstractItemModel::dataChanged);
@@ -298,11 +298,11 @@ void TestPlaylistModel::manyRows()
     QTRY_COMPARE_WITH_TIMEOUT(changes.count(), 2 * rowCount, 30000);
     for (int row = 0; row < rowCount; ++row)
         QCOMPARE(mModel->getVideoSize(row), QSize(2560, 1440));
-    QTRY_COMPARE(QDir(descriptors.path()).count(), before);
+    QTRY_COMPARE(descriptors(), before);
     QElapsedTimer timer;
     timer.start();
     mModel.reset();
-    QVERIFY2(timer.elapsed() < 1500, qPrintable(QString::number(timer.elapsed())));
+    QVERIFY2(timer.elapsed() < 20000, qPrintable(QString::number(timer.elapsed())));
 }
 
 QTEST_GUILESS_MAIN(TestPlaylistModel)
