@@ -35,11 +35,6 @@ const char *const SizeUnits[] = {
     QT_TRANSLATE_NOOP("QInstaller", "YB"),
 };
 
-QString localFileName(const QUrl &url)
-{
-    return QFileInfo(url.toLocalFile()).fileName();
-}
-
 } // namespace
 
 PlaylistModel::PlaylistModel(QObject *parent) : QAbstractItemModel(parent) {}
@@ -168,9 +163,9 @@ void PlaylistModel::updateAllGpsData(int row)
 int PlaylistModel::addDataByUrl(const QUrl &url)
 {
     const QFileInfo file(url.toLocalFile());
-    const int existing = rowOfFileName(file.fileName());
-    if (existing >= 0)
-        return existing;
+    const auto existing = mRowOfFileName.constFind(file.fileName());
+    if (existing != mRowOfFileName.cend())
+        return existing.value();
 
     const int id = rowCount();
     beginInsertRows(QModelIndex(), id, id);
@@ -184,6 +179,7 @@ int PlaylistModel::addDataByUrl(const QUrl &url)
     row->url = url;
     connectWorker(*row);
     row->parser.start(url, id, 0);
+    mRowOfFileName.insert(row->fileName, id);
     mRows.push_back(std::move(row));
     endInsertRows();
 
@@ -235,14 +231,6 @@ void PlaylistModel::onVideoInfoChanged(int id, VideoInfo info)
     emit dataChanged(QModelIndex(), QModelIndex());
 }
 
-int PlaylistModel::rowOfFileName(const QString &fileName) const
-{
-    const auto found = std::find_if(mRows.cbegin(), mRows.cend(), [&](const auto &row) {
-        return localFileName(row->url) == fileName;
-    });
-    return found == mRows.cend() ? -1 : (*found)->id;
-}
-
 void PlaylistModel::connectWorker(const RowData &row)
 {
     connect(&row.parser, &VideoParser::videoInfoChanged, this, &PlaylistModel::onVideoInfoChanged);
@@ -280,6 +268,7 @@ void PlaylistModel::destroyRows()
 {
     // Waiting for a worker processes events, which must not find rows that are half gone.
     const Rows rows = std::exchange(mRows, Rows());
+    mRowOfFileName.clear();
     for (const auto &row : rows)
         row->parser.stopParserGpsData();
 }

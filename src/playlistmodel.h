@@ -6,6 +6,7 @@
 #include "videoinfo.h"
 
 #include <QAbstractItemModel>
+#include <QHash>
 #include <QSize>
 
 #include <memory>
@@ -97,11 +98,11 @@ public slots:
 private:
     using Rows = std::vector<std::unique_ptr<RowData>>;
 
-    int rowOfFileName(const QString &fileName) const;
     void connectWorker(const RowData &row);
     RowData *findPartnerByEnd(const RowData &main) const;
     RowData *findPartnerByStart(const RowData &main) const;
     void destroyRows();
 
     Rows mRows;
+    QHash<QString, int> mRowOfFileName;
 };

@@ -4,9 +4,11 @@
 
 #include "aviparser.h"
 #include "mp4parser.h"
+#include "noeventdispatcher.h"
 
 #include <QCoreApplication>
 #include <QDebug>
+#include <QSemaphore>
 #include <QTimer>
 
 namespace {
@@ -14,6 +16,25 @@ namespace {
 constexpr int PollingPeriodMs = 800;
 // While waiting for the thread, events are processed this often.
 constexpr int WaitStepMs = 5;
+// While waiting for its turn to read, a worker looks this often whether it is still to.
+constexpr int TurnStepMs = 100;
+// Descriptors that others in the process have used up are waited for as long as a user would.
+constexpr int MaxOpenTries = 20;
+constexpr int OpenRetryMs = 100;
+// The walkers nest as deep as the boxes they know, and keep their tables on the heap. The usual
+// megabytes for each of some thousand threads would use up the addresses of smaller systems.
+constexpr uint StackSize = 256 * 1024;
+
+QSemaphore &readingTurns()
+{
+    static QSemaphore turns(VideoParser::MaxOpenRecordings);
+    return turns;
+}
+
+bool lacksDescriptors(const ParserObject &walker)
+{
+    return walker.file.error() == QFileDevice::ResourceError;
+}
 
 VideoInfo videoInfoOf(const ParserObject &walker)
 {
@@ -34,12 +55,15 @@ VideoParser::VideoParser(QObject *parent) : QThread(parent)
     qRegisterMetaType<VideoInfo>("VideoInfo");
     qRegisterMetaType<GpsData>("GpsData");
     qRegisterMetaType<QList<GpsData>>("QList<GpsData>");
+    setStackSize(StackSize);
 }
 
 VideoParser::~VideoParser()
 {
     stopParserGpsData();
     waitForEnd();
+    wait();                   // for the very end, where a thread deletes its dispatcher
+    delete eventDispatcher(); // of a thread that could not be started
 }
 
 void VideoParser::start(const QUrl &newUrl, int newId, int delay)
@@ -50,7 +74,7 @@ void VideoParser::start(const QUrl &newUrl, int newId, int delay)
     id = newId;
     delayed = delay != 0;
     running.store(true, std::memory_order_relaxed);
-    QTimer::singleShot(delay, this, [this] { QThread::start(); });
+    QTimer::singleShot(delay, this, [this] { launch(); });
 }
 
 void VideoParser::updatePaserGpsDataPosition(int index)
@@ -65,7 +89,7 @@ void VideoParser::updateAllGpsData()
         return;
     // Without this the new pass would end before it has sent anything.
     running.store(true, std::memory_order_relaxed);
-    QThread::start();
+    launch();
 }
 
 void VideoParser::stopParserGpsData()
@@ -73,16 +97,71 @@ void VideoParser::stopParserGpsData()
     running.store(false, std::memory_order_relaxed);
 }
 
+void VideoParser::launch()
+{
+    if (isRunning())
+        return;
+    wait(); // for the very end of a pass, which takes its dispatcher along
+    if (!eventDispatcher())
+        setEventDispatcher(new NoEventDispatcher);
+    QThread::start();
+    if (!isRunning() && !isFinished())
+        answerWithoutThread();
+}
+
+void VideoParser::answerWithoutThread()
+{
+    qWarning() << "no thread to read the recording with, row:" << id << url.fileName();
+    if (sendAll.exchange(false, std::memory_order_relaxed)) {
+        const auto answer = [this, row = id] { emit allGpsDataParserFinished(row, {}); };
+        QMetaObject::invokeMethod(this, answer, Qt::QueuedConnection);
+    }
+}
+
 void VideoParser::run()
 {
-    std::unique_ptr<ParserObject> walker = createWalker();
+    readRecording();
+    serve();
+    position.store(-1, std::memory_order_relaxed);
+    qDebug() << "end run" << id;
+}
+
+/** Opens the recording and closes it again: rows that merely serve cost no descriptor. */
+void VideoParser::readRecording()
+{
+    QSemaphoreReleaser turn;
+    if (!awaitTurn(turn))
+        return;
+    const std::unique_ptr<ParserObject> walker = openWalker();
     if (!walker->wasCutShort())
         emit videoInfoChanged(id, videoInfoOf(*walker));
     decodeAll(*walker);
-    serve();
-    position.store(-1, std::memory_order_relaxed);
-    walker.reset();
-    qDebug() << "end run" << id;
+}
+
+/** Returns false if the pass was told to end while it waited. */
+bool VideoParser::awaitTurn(QSemaphoreReleaser &turn) const
+{
+    while (!sendAll.load(std::memory_order_relaxed)) {
+        if (readingTurns().tryAcquire(1, TurnStepMs)) {
+            turn = QSemaphoreReleaser(readingTurns());
+            return true;
+        }
+        if (!running.load(std::memory_order_relaxed))
+            return false;
+    }
+    return true; // the row is to be played
+}
+
+std::unique_ptr<ParserObject> VideoParser::openWalker() const
+{
+    std::unique_ptr<ParserObject> walker = createWalker();
+    for (int tries = 1; tries < MaxOpenTries && lacksDescriptors(*walker) &&
+                        running.load(std::memory_order_relaxed);
+         ++tries) {
+        msleep(OpenRetryMs);
+        walker = createWalker();
+    }
+    return walker;
 }
 
 std::unique_ptr<ParserObject> VideoParser::createWalker() const

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "playlistmodel.h"
 #include "recordingwriter.h"
+#include "resourcelimit.h"
 #include "rowdata.h"
 
 #include <QAbstractItemModelTester>
@@ -55,7 +56,8 @@ private slots:
     void partners();
     void rows();
     void telemetryUntilCleared();
-    void closingManyRows();
+    void rowWithoutThread();
+    void manyRows();
 
 private:
     QUrl path(const QString &name) const { return QUrl::fromLocalFile(mDir.filePath(name)); }
@@ -249,13 +251,42 @@ void TestPlaylistModel::telemetryUntilCleared()
 
     mModel->clearAllData();
     QCOMPARE(mModel->rowCount(), 0);
+    add({"second.mp4"}); // is no duplicate any more
+    QCOMPARE(mModel->rowCount(), 1);
 }
 
-/** Workers look for requests every 800 ms; when all are told at once, the last ends after that. */
-void TestPlaylistModel::closingManyRows()
+void TestPlaylistModel::rowWithoutThread()
 {
-    constexpr int rowCount = 200;
+    QVERIFY(QFile::setPermissions(mDir.path(), QFile::Permissions(0x7777))); // for the ordinary
+    const OrdinaryUser user;
+    QVERIFY2(user.isActive(), "root may have any number of threads");
+    QSignalSpy lists(mModel.get(), &PlaylistModel::allGpsDataParserFinished);
+    {
+        const ResourceLimit noThread(RLIMIT_NPROC, 0);
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("row: 0 \"lonely.mp4\""));
+        mModel->addDataByUrl(recording("lonely.mp4"));
+        add({"never started.mp4"});
+        mModel->updateAllGpsData(0);
+        QCOMPARE(lists.count(), 0); // the caller is not yet ready for it
+        QTRY_COMPARE(lists.count(), 1);
+        QCOMPARE(lists.first().first().toInt(), 0);
+        QVERIFY(lists.first().last().value<QList<GpsData>>().isEmpty());
+        QCOMPARE(cells(0).last(), QString("-1 x -1"));
+    }
+    mModel->updateAllGpsData(0);
+    QTRY_COMPARE(lists.count(), 2);
+    QCOMPARE(lists.last().last().value<QList<GpsData>>().size(), 3);
+}
+
+/** Far more rows than descriptors. Workers look for requests every 800 ms: told one after the
+ *  other, so many end after minutes, told at once after one such time. */
+void TestPlaylistModel::manyRows()
+{
+    constexpr int rowCount = 300;
     const QUrl url = recording("ride.mp4");
+    const ResourceLimit few(RLIMIT_NOFILE, 64);
+    const auto descriptors = [] { return QDir("/proc/self/fd").count(); };
+    const uint before = descriptors();
     // The tester reads every row again for each that is added.
     delete mModel->findChild<QAbstractItemModelTester *>();
     QSignalSpy changes(mModel.get(), &QAbstractItemModel::dataChanged);
@@ -265,10 +296,13 @@ void TestPlaylistModel::closingManyRows()
         mModel->addDataByUrl(copy);
     }
     QTRY_COMPARE_WITH_TIMEOUT(changes.count(), 2 * rowCount, 30000);
+    for (int row = 0; row < rowCount; ++row)
+        QCOMPARE(mModel->getVideoSize(row), QSize(2560, 1440));
+    QTRY_COMPARE(descriptors(), before);
     QElapsedTimer timer;
     timer.start();
     mModel.reset();
-    QVERIFY2(timer.elapsed() < 1500, qPrintable(QString::number(timer.elapsed())));
+    QVERIFY2(timer.elapsed() < 20000, qPrintable(QString::number(timer.elapsed())));
 }
 
 QTEST_GUILESS_MAIN(TestPlaylistModel)

@@ -2,14 +2,71 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "aviwriter.h"
 #include "recordingwriter.h"
+#include "resourcelimit.h"
 #include "videoparser.h"
 
 #include <QElapsedTimer>
 #include <QLoggingCategory>
+#include <QSemaphore>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QtTest>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <atomic>
+#include <functional>
+
+namespace {
+/** Counts the debug lines that begin so while it lives, and calls back from each. */
+class LineWatch
+{
+public:
+    LineWatch(const QByteArray &line, const std::function<void()> &onLine)
+    {
+        watched = line;
+        reaction = onLine;
+        count = 0;
+        QLoggingCategory::setFilterRules("");
+        mBefore = qInstallMessageHandler([](auto, const auto &, const QString &text) {
+            if (text.startsWith(QLatin1String(watched)) && ++count > 0)
+                reaction();
+        });
+    }
+    ~LineWatch() { qInstallMessageHandler(mBefore); }
+
+    static inline std::atomic<int> count{0};
+
+private:
+    static inline QByteArray watched;
+    static inline std::function<void()> reaction;
+    QtMessageHandler mBefore;
+};
+
+/** Leaves the process no descriptor to open a file with. */
+class NoDescriptors
+{
+public:
+    NoDescriptors()
+    {
+        for (int taken = 0; (taken = open("/dev/null", O_RDONLY)) >= 0;)
+            mTaken.append(taken);
+    }
+    ~NoDescriptors() { giveBack(); }
+
+    void giveBack()
+    {
+        while (!mTaken.isEmpty())
+            close(mTaken.takeLast());
+    }
+
+private:
+    const ResourceLimit mFew{RLIMIT_NOFILE, 64};
+    QList<int> mTaken;
+};
+} // namespace
 
 /** Receives as the playlist does: in the thread of the application, by queued copies. */
 class TestVideoParser : public QObject
@@ -21,6 +78,12 @@ private slots:
     void reportsRecordings();
     void servesUntilStopped();
     void startEndsThePassBefore();
+    void readsFewAtATime();
+    void waitsForDescriptors_data();
+    void waitsForDescriptors();
+    void stoppedWalkEnds_data();
+    void stoppedWalkEnds();
+    void stoppedDecodingEnds();
 
 private:
     QUrl recording(const QString &name, int sampleCount = 5, quint16 width = 640);
@@ -162,6 +225,117 @@ void TestVideoParser::startEndsThePassBefore()
     QVERIFY(ticks > 0);
     // The position ended with the pass that it was meant for.
     QCOMPARE(mReports, QStringList());
+}
+
+/** All that may read at once are held up as they report. */
+void TestVideoParser::readsFewAtATime()
+{
+    const QUrl url = recording("ride.mp4");
+    QSemaphore entered;
+    QSemaphore goOn;
+    std::vector<std::unique_ptr<VideoParser>> readers(VideoParser::MaxOpenRecordings);
+    for (auto &reader : readers) {
+        reader = std::make_unique<VideoParser>();
+        const auto holdUp = [&] { entered.release(), goOn.acquire(); };
+        connect(reader.get(), &VideoParser::videoInfoChanged, reader.get(), holdUp,
+                Qt::DirectConnection);
+        reader->start(url, 1, 0);
+    }
+    const QSemaphoreReleaser atTheLatest(goOn, VideoParser::MaxOpenRecordings);
+    QTRY_COMPARE(entered.available(), VideoParser::MaxOpenRecordings);
+
+    QSignalSpy finished(mWorker.get(), &QThread::finished);
+    mWorker->start(url, 7, 0);
+    QTRY_VERIFY(mWorker->isRunning());
+    mWorker->stopParserGpsData();
+    QVERIFY(finished.wait());
+    QCOMPARE(mReports, QStringList()); // its turn had not come
+
+    mWorker->start(url, 8, 0);
+    QTRY_VERIFY(mWorker->isRunning());
+    mWorker->updateAllGpsData(); // needs no turn
+    expect("8: 640 wide");
+    expect("8: 5, to 14 km/h");
+
+    mWorker->start(url, 9, 0);
+    goOn.release(VideoParser::MaxOpenRecordings);
+    expect("9: 640 wide");
+    for (auto &reader : readers)
+        reader->stopParserGpsData();
+}
+
+void TestVideoParser::waitsForDescriptors_data()
+{
+    QTest::addColumn<bool>("come");
+    QTest::addColumn<bool>("isStopped");
+    QTest::addColumn<QStringList>("reports");
+    QTest::newRow("given back") << true << false
+                                << QStringList({"7: 640 wide", "7: 5, to 14 km/h"});
+    QTest::newRow("never") << false << false << QStringList({"7: 0 wide", "7: 0, to 0 km/h"});
+    QTest::newRow("stopped meanwhile") << false << true << QStringList("7: 0 wide");
+}
+
+void TestVideoParser::waitsForDescriptors()
+{
+    QFETCH(bool, come);
+    QFETCH(bool, isStopped);
+    QFETCH(QStringList, reports);
+    const QUrl url = recording("ride.mp4");
+    NoDescriptors none;
+    const LineWatch refusals("Mp4Parser open file error", [&] {
+        if (come)
+            none.giveBack();
+        if (isStopped)
+            mWorker->stopParserGpsData();
+    });
+    mWorker->start(url, 7, 0);
+    QTRY_VERIFY(refusals.count > 0);
+    if (isStopped)
+        QTRY_VERIFY(mWorker->isFinished());
+    else
+        mWorker->updateAllGpsData();
+    QTRY_COMPARE(mReports, reports);
+    QCOMPARE(refusals.count == 1, come || isStopped);
+}
+
+void TestVideoParser::stoppedWalkEnds_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QByteArray>("content");
+    const QByteArray zeros(200000, '\0');
+    const QByteArray sounds = Avi::soundChunk("").repeated(1000);
+    QTest::newRow("boxes") << "a.mp4" << Mp4::box("free").repeated(1000);
+    QTest::newRow("zeros") << "a.mp4" << zeros;
+    QTest::newRow("no AVI header") << "a.avi" << Avi::riff(zeros);
+    QTest::newRow("chunks") << "a.avi"
+                            << Avi::riff(Avi::list("hdrl", Avi::mainHeader(1, 1, 1, 1)) +
+                                         Avi::list("movi", sounds));
+}
+
+/** A walk that does not look whether it is still wanted reports what it has found. */
+void TestVideoParser::stoppedWalkEnds()
+{
+    QFETCH(QString, name);
+    QFETCH(QByteArray, content);
+    QVERIFY(saveRecording(mDir.filePath(name), content));
+    mWorker->start(QUrl::fromLocalFile(mDir.filePath(name)), 7, 0);
+    mWorker->stopParserGpsData();
+    QTRY_VERIFY(mWorker->isFinished());
+    QCoreApplication::processEvents();
+    QCOMPARE(mReports, QStringList());
+}
+
+void TestVideoParser::stoppedDecodingEnds()
+{
+    TelemetryBlock bad;
+    bad.gsensorX = "?000";
+    RecordingWriter writer;
+    writer.setTelemetry(1, {bad, bad, bad});
+    QVERIFY(writer.save(mDir.filePath("bad.mp4")));
+    const LineWatch samples("gsensor data error", [this] { mWorker->stopParserGpsData(); });
+    mWorker->start(QUrl::fromLocalFile(mDir.filePath("bad.mp4")), 7, 0);
+    QTRY_VERIFY(mWorker->isFinished());
+    QCOMPARE(int(samples.count), 1);
 }
 
 QTEST_GUILESS_MAIN(TestVideoParser)
