@@ -8,6 +8,7 @@
 #include <QElapsedTimer>
 #include <QMimeData>
 #include <QProcess>
+#include <QScreen>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -47,6 +48,20 @@ bool waitForReports(const PlayAreaManager &area, int count)
     return true;
 }
 
+/** Whether the screen shows something else in the area after a while. */
+bool pictureMoves(const PlayAreaManager &area)
+{
+    const QRect place(area.mapToGlobal(QPoint(0, 0)), area.size());
+    const auto grab = [&place] {
+        return QGuiApplication::primaryScreen()
+            ->grabWindow(0, place.x(), place.y(), place.width(), place.height())
+            .toImage();
+    };
+    const QImage before = grab();
+    QTest::qWait(700);
+    return grab() != before;
+}
+
 } // namespace
 
 /** The play area with real recordings on a real display. */
@@ -70,7 +85,10 @@ private slots:
     void correctsAPlayerThatIsOff();
     void shorterSecondEndsByItself();
     void cutSecondEndsOnce();
-    void unplayableMainStopsBoth();
+    void unplayableMainPlaysNothing_data();
+    void unplayableMainPlaysNothing();
+    void stopHolds_data();
+    void stopHolds();
 
 private:
     void playPair(const RowData &main, const RowData &related);
@@ -147,16 +165,29 @@ void tst_Playback::acceptsDroppedRecordings()
     mime.setUrls({QUrl::fromLocalFile(QStringLiteral("/drive/notes.txt")),
                   QUrl::fromLocalFile(mFolder.path()), QUrl(video)});
 
-    QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
+    // A source that proposes to move deletes its file afterwards.
+    QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction | Qt::MoveAction, &mime, Qt::LeftButton,
+                          Qt::ShiftModifier);
+    enter.setDropAction(Qt::MoveAction);
     enter.ignore();
     QCoreApplication::sendEvent(mArea.get(), &enter);
     QVERIFY(enter.isAccepted());
-    QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
+    QCOMPARE(enter.dropAction(), Qt::CopyAction);
+    QDropEvent drop(QPointF(5, 5), Qt::CopyAction | Qt::MoveAction, &mime, Qt::LeftButton,
+                    Qt::ShiftModifier);
+    drop.setDropAction(Qt::MoveAction);
     QCoreApplication::sendEvent(mArea.get(), &drop);
+    QCOMPARE(drop.dropAction(), Qt::CopyAction);
     QCOMPARE(dropped.size(), 1);
-    QCOMPARE(dropped.first().first().toString(), video);
+    QCOMPARE(dropped.takeFirst().first().toString(), video);
 
-    mime.setUrls({QUrl::fromLocalFile(QStringLiteral("/drive/notes.txt"))});
+    mime.setUrls({QUrl(QStringLiteral("file://localhost/drive/a.mov"))});
+    QCoreApplication::sendEvent(mArea.get(), &drop);
+    QCOMPARE(dropped.takeFirst().first().toString(), QStringLiteral("file:///drive/a.mov"));
+
+    mime.setUrls({QUrl::fromLocalFile(QStringLiteral("/drive/notes.txt")),
+                  QUrl(QStringLiteral("http://127.0.0.1/a.mp4")),
+                  QUrl(QStringLiteral("file://elsewhere/a.mp4"))});
     QDragEnterEvent refused(QPoint(5, 5), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
     refused.ignore();
     QCoreApplication::sendEvent(mArea.get(), &refused);
@@ -325,20 +356,62 @@ void tst_Playback::cutSecondEndsOnce()
     QCOMPARE(changes.size(), 0);
 }
 
-void tst_Playback::unplayableMainStopsBoth()
+void tst_Playback::unplayableMainPlaysNothing_data()
 {
-    QFile letter(mFolder.filePath(QStringLiteral("letter.mp4")));
-    QVERIFY(letter.open(QIODevice::WriteOnly) && letter.write("Dear driver,") > 0);
-    letter.close();
+    QTest::addColumn<int>("size"); // of the beginning of a recording; 0 for a text
+    QTest::newRow("text") << 0;
+    QTest::newRow("cut off before its index") << 100000;
+}
+
+/** Nor does the related recording play on alone, then or when it is told to play again. */
+void tst_Playback::unplayableMainPlaysNothing()
+{
+    QFETCH(int, size);
+    QFile whole(mRear.url.toLocalFile());
+    QVERIFY(whole.open(QIODevice::ReadOnly));
+    QFile file(mFolder.filePath(QStringLiteral("unplayable.mp4")));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QVERIFY(file.write(size > 0 ? whole.read(size) : QByteArray("Dear driver,")) > 0);
+    file.close();
     RowData unplayable;
-    unplayable.url = QUrl::fromLocalFile(letter.fileName());
+    unplayable.url = QUrl::fromLocalFile(file.fileName());
+    QSignalSpy failed(mArea.get(), &PlayAreaManager::failed);
     mArea->setPlayerNum(2);
     mArea->setResourceData(&unplayable, &mRear);
     mArea->play();
-    QTRY_COMPARE(mainOf(*mArea)->mediaStatus(), QMediaPlayer::InvalidMedia);
-    QTRY_COMPARE(secondOf(*mArea)->state(), QMediaPlayer::StoppedState);
+    QVERIFY(!pictureMoves(*mArea));
+    QTRY_COMPARE_WITH_TIMEOUT(failed.size(), 1, 20000);
+    for (int i = 0; i < 2; ++i) {
+        QVERIFY(!pictureMoves(*mArea));
+        QCOMPARE(mArea->state(), QMediaPlayer::StoppedState);
+        QCOMPARE(secondOf(*mArea)->state(), QMediaPlayer::StoppedState);
+        mArea->play();
+    }
+    QCOMPARE(failed.size(), 1);
+
+    mArea->setResourceData(&mFront, &mRear); // and the next one is not held up
     mArea->play();
-    QTRY_COMPARE(secondOf(*mArea)->state(), QMediaPlayer::StoppedState);
+    QTRY_VERIFY(mainOf(*mArea)->position() > 0 && secondOf(*mArea)->position() > 0);
+    QVERIFY(pictureMoves(*mArea));
+}
+
+void tst_Playback::stopHolds_data()
+{
+    QTest::addColumn<int>("afterMs");
+    for (const int afterMs : {0, 3, 5, 8, 12})
+        QTest::addRow("%d ms after play", afterMs) << afterMs;
+}
+
+void tst_Playback::stopHolds()
+{
+    QFETCH(int, afterMs);
+    mArea->setPlayerNum(2);
+    mArea->setResourceData(&mFront, &mRear);
+    QTRY_VERIFY(mArea->isSettled());
+    mArea->play();
+    QTest::qWait(afterMs);
+    mArea->stop();
+    QVERIFY(!pictureMoves(*mArea));
 }
 
 QTEST_MAIN(tst_Playback)

@@ -9,6 +9,7 @@
 #include "mapwebview.h"
 #include "mediafile.h"
 #include "playareamanager.h"
+#include "rowdata.h"
 #include "speedtray.h"
 
 #include <QApplication>
@@ -129,6 +130,10 @@ private slots:
     void playsAListToItsEnd();
     void droppedRecordingPlays();
     void openDialogPlaysTheFirst();
+    void quickNextLoadsTheLastOnly();
+    void manyDroppedLoadTheLastOnly();
+    void unplayableOnesArePassed();
+    void showsTheFirstSecondAndForgetsTheLastRecording();
     void stopResets();
     void closingWhileTelemetryArrives_data();
     void closingWhileTelemetryArrives();
@@ -169,8 +174,10 @@ void tst_Program::initTestCase()
         samples.append(sampleOf(i));
     QVERIFY(makeMediaFile(path("MOVA0001.MP4"), PairSeconds, samples));
     QVERIFY(makeMediaFile(path("MOVB0001.MP4"), PairSeconds, samples));
-    for (const char *name : {"one.mp4", "two #2 100%.mp4", "three.mp4"})
+    for (const char *name : {"one.mp4", "two #2 100%.mp4", "three.mp4", "four.avi"})
         QVERIFY(makeMediaFile(path(name), 2));
+    QFile text(path("letter.mp4"));
+    QVERIFY(text.open(QIODevice::WriteOnly) && text.write("Dear driver,") > 0);
 }
 
 void tst_Program::init()
@@ -320,6 +327,10 @@ void tst_Program::samplesNotToBeShown()
     QCOMPARE(chartLine(3).value(0).x(), 11.0);
     QCOMPARE(map("position"), mapPositionOf(7));
 
+    sample.longitude = 11; // on the equator
+    mWindow->onGpsDataChanged(0, sample);
+    QTRY_COMPARE(map("position"), QString("[11,0]"));
+
     click("btn_Stop");
     mWindow->onGpsDataChanged(0, sample);
     mWindow->onAllGpsDataParserFinished(0, {sample});
@@ -363,6 +374,9 @@ void tst_Program::keysAndSeeking()
 
     QTest::keyClick(mWindow.get(), Qt::Key_Space);
     QTRY_COMPARE(area()->state(), QMediaPlayer::PausedState);
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, QString(), true);
+    QCoreApplication::sendEvent(mWindow.get(), &held);
+    QCOMPARE(area()->state(), QMediaPlayer::PausedState);
     QTest::keyClick(mWindow.get(), Qt::Key_Space);
     QTRY_COMPARE(area()->state(), QMediaPlayer::PlayingState);
 }
@@ -466,11 +480,18 @@ void tst_Program::playsAListToItsEnd()
         if (played.isEmpty() || played.last() != row)
             played.append(row);
     });
-    openArguments({path("one.mp4"), path("two #2 100%.mp4"), path("three.mp4")});
+    // The whole seconds of the first one end with its first, but it has two.
+    qint64 lastMs = 0;
+    connect(player(), &QMediaPlayer::positionChanged, mWindow.get(), [&](qint64 positionMs) {
+        lastMs =
+            area()->mainRow() && area()->mainRow()->id == 0 ? qMax(lastMs, positionMs) : lastMs;
+    });
+    openArguments({path("four.avi"), path("two #2 100%.mp4"), path("three.mp4")});
     QTRY_COMPARE_WITH_TIMEOUT(played.size(), 3, 15000);
     QTRY_COMPARE(area()->state(), QMediaPlayer::PlayingState);
     QTRY_COMPARE_WITH_TIMEOUT(area()->state(), QMediaPlayer::StoppedState, 15000);
     QCOMPARE(played, QList<int>({0, 1, 2})); // none skipped, none twice
+    QVERIFY2(lastMs > 1800, qPrintable(QString::number(lastMs)));
     QTRY_VERIFY(!child<QPushButton>("btn_Stop")->isEnabled());
     QVERIFY(!child<QPushButton>("btn_PlayOrPause")->isChecked());
     QCOMPARE(second(), 0);
@@ -493,17 +514,141 @@ void tst_Program::droppedRecordingPlays()
 void tst_Program::openDialogPlaysTheFirst()
 {
     Configuration::GetInstance()->setVideoFilePath(QDir::homePath());
-    QTimer::singleShot(0, mWindow.get(), [this] {
-        auto *dialog = mWindow->findChild<QFileDialog *>();
-        dialog->setDirectory(mFolder.path());
-        dialog->findChild<QLineEdit *>()->setText(QStringLiteral("\"one.mp4\" \"three.mp4\""));
-        QMetaObject::invokeMethod(dialog, "accept");
-    });
-    click("btn_OpenFile");
+    const auto choose = [this](const QString &names) {
+        QTimer::singleShot(0, mWindow.get(), [this, names] {
+            auto *dialog = mWindow->findChild<QFileDialog *>();
+            dialog->setDirectory(mFolder.path());
+            dialog->findChild<QLineEdit *>()->setText(names);
+            QMetaObject::invokeMethod(dialog, "accept");
+        });
+        click("btn_OpenFile");
+    };
+    choose(QStringLiteral("\"one.mp4\" \"three.mp4\""));
     QCOMPARE(child<QTableView>("tbl_PlayListView")->model()->rowCount(), 2);
     QCOMPARE(text("lbl_FileName"), QStringLiteral("one.mp4"));
     QCOMPARE(Configuration::GetInstance()->videoFilePath(), mFolder.path());
     QTRY_COMPARE(area()->state(), QMediaPlayer::PlayingState);
+
+    // One that is in the list already, and a new one.
+    choose(QStringLiteral("\"three.mp4\" \"four.avi\""));
+    QCOMPARE(child<QTableView>("tbl_PlayListView")->model()->rowCount(), 3);
+    QCOMPARE(text("lbl_FileName"), QStringLiteral("three.mp4"));
+}
+
+/** What the main player is given, but for nothing. */
+class LoadedMedia
+{
+public:
+    explicit LoadedMedia(QMediaPlayer *player) : mSpy(player, &QMediaPlayer::mediaChanged) {}
+
+    QStringList names()
+    {
+        QStringList names;
+        for (const QList<QVariant> &arguments : mSpy) {
+            const auto media = arguments.first().value<QMediaContent>();
+            if (!media.isNull())
+                names.append(media.request().url().fileName());
+        }
+        mSpy.clear();
+        return names;
+    }
+
+private:
+    QSignalSpy mSpy;
+};
+
+void tst_Program::quickNextLoadsTheLastOnly()
+{
+    QStringList names;
+    for (int i = 0; i < 12; ++i) {
+        names.append(mFolder.filePath(QStringLiteral("copy%1.mp4").arg(i + 10)));
+        QFile::copy(path("one.mp4"), names.last());
+    }
+    LoadedMedia loaded(player());
+    openArguments(names);
+    for (int i = 1; i <= 10; ++i) { // the list follows at once
+        click("btn_Next");
+        QCOMPARE(text("lbl_FileName"), QStringLiteral("copy%1.mp4").arg(i + 10));
+        QCOMPARE(child<QTableView>("tbl_PlayListView")->currentIndex().row(), i);
+    }
+    click("btn_Previous");
+    QTRY_VERIFY(player()->position() > 500);
+    QCOMPARE(loaded.names(), QStringList({"copy19.mp4"}));
+    // While one is being loaded, the next one waits.
+    bool wasDisturbed = false;
+    connect(player(), &QMediaPlayer::mediaChanged, mWindow.get(),
+            [&] { wasDisturbed = wasDisturbed || !area()->isSettled(); });
+    const auto goOn = [this](QMediaPlayer::MediaStatus status) {
+        if (status == QMediaPlayer::LoadingMedia)
+            mWindow->previousClicked();
+    };
+    connect(player(), &QMediaPlayer::mediaStatusChanged, mWindow.get(), goOn, Qt::QueuedConnection);
+    mWindow->previousClicked();
+    QTRY_COMPARE(text("lbl_FileName"), QStringLiteral("copy10.mp4"));
+    QTRY_VERIFY(player()->position() > 500);
+    QVERIFY(!wasDisturbed);
+}
+
+void tst_Program::manyDroppedLoadTheLastOnly()
+{
+    QList<QUrl> urls;
+    for (int i = 0; i < 200; ++i) {
+        const QString name = mFolder.filePath(QStringLiteral("drop%1.mp4").arg(i));
+        QFile::link(path("one.mp4"), name);
+        urls.append(QUrl::fromLocalFile(name));
+    }
+    QMimeData mime;
+    mime.setUrls(urls);
+    LoadedMedia loaded(player());
+    QDragEnterEvent enter(QPoint(9, 9), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(area(), &enter);
+    QDropEvent drop(QPointF(9, 9), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(area(), &drop);
+    QCOMPARE(text("lbl_FileName"), QStringLiteral("drop199.mp4"));
+    QTRY_VERIFY(player()->position() > 0);
+    QCOMPARE(loaded.names(), QStringList({"drop199.mp4"}));
+}
+
+void tst_Program::unplayableOnesArePassed()
+{
+    openArguments({path("one.mp4"), path("letter.mp4"), path("three.mp4")});
+    QTRY_COMPARE_WITH_TIMEOUT(text("lbl_FileName"), QStringLiteral("letter.mp4"), 10000);
+    QTRY_COMPARE(player()->mediaStatus(), QMediaPlayer::InvalidMedia);
+    QTRY_COMPARE_WITH_TIMEOUT(text("lbl_FileName"), QStringLiteral("three.mp4"), 10000);
+    QTRY_VERIFY(player()->position() > 0);
+
+    // One that the user has chosen stays.
+    click("btn_Previous");
+    QTRY_COMPARE(player()->mediaStatus(), QMediaPlayer::InvalidMedia);
+    QTest::qWait(4500);
+    QCOMPARE(text("lbl_FileName"), QStringLiteral("letter.mp4"));
+}
+
+void tst_Program::showsTheFirstSecondAndForgetsTheLastRecording()
+{
+    playPair();
+    QCOMPARE(text("lbl_GpsDateTime"), dateTimeTextOf(0));
+    QCOMPARE(text("lbl_LongitudeAndLatitude"), positionTextOf(0));
+    QCOMPARE(child<SpeedTray>("wgt_Speed")->shownSpeed(), 40);
+    QCOMPARE(chartLine(3).value(0).x(), 0.0);
+    QTRY_COMPARE(map("position"), mapPositionOf(0));
+    pauseAt(18);
+    QTRY_COMPARE(text("lbl_GpsDateTime"), dateTimeTextOf(18));
+
+    openArguments({path("one.mp4")});
+    const auto *compass = static_cast<DirectionTray *>(child<QWidget>("wgt_Direction"));
+    for (int i = 0; i < 2; ++i) { // at once, and then, without telemetry
+        QCOMPARE(text("lbl_GpsDateTime"), QStringLiteral("0000/00/00 00:00:00"));
+        QCOMPARE(text("lbl_LongitudeAndLatitude"), QStringLiteral("N00.000000,E000.000000"));
+        QCOMPARE(text("pBtn_SP"), QStringLiteral("000 km/h"));
+        QCOMPARE(child<SpeedTray>("wgt_Speed")->shownSpeed(), 0);
+        QCOMPARE(compass->headingDeg(), 0);
+        QVERIFY(chartLine(3).isEmpty());
+        if (i == 0)
+            QCOMPARE(text("lbl_PlayTime"), QStringLiteral("00:00/00:00"));
+        QTRY_VERIFY(player()->position() > 500);
+    }
+    QCOMPARE(map("position"), QString("null"));
 }
 
 void tst_Program::stopResets()
@@ -518,6 +663,11 @@ void tst_Program::stopResets()
     QCOMPARE(text("pBtn_SP"), QStringLiteral("000 km/h"));
     QCOMPARE(text("lbl_FileName"), QString());
     QCOMPARE(second(), 0);
+    const auto *slider = child<QSlider>("hSlider_Seek");
+    QTest::mouseClick(child<QWidget>("hSlider_Seek"), Qt::LeftButton, {},
+                      QPoint(slider->width() / 2, 7));
+    QVERIFY(!slider->isEnabled());
+    QCOMPARE(area()->state(), QMediaPlayer::StoppedState);
     click("btn_PlayOrPause"); // the row is still selected
     QTRY_COMPARE(area()->state(), QMediaPlayer::PlayingState);
     QCOMPARE(text("lbl_FileName"), QStringLiteral("MOVA0001.MP4"));
@@ -563,9 +713,6 @@ void tst_Program::closingWhileTelemetryArrives()
 
 void tst_Program::unplayableFilesDoNoHarm()
 {
-    QFile text(path("letter.mp4"));
-    QVERIFY(text.open(QIODevice::WriteOnly) && text.write("Dear driver,") > 0);
-    text.close();
     openArguments({path("letter.mp4"), path("missing.mp4"), path("one.mp4")});
     QCOMPARE(child<QTableView>("tbl_PlayListView")->model()->rowCount(), 2);
     QTRY_VERIFY(player()->mediaStatus() == QMediaPlayer::InvalidMedia);
