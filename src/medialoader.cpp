@@ -8,10 +8,16 @@ namespace {
 // may be searched for it for ever.
 constexpr int PatienceMs = 3000;
 
+// The backend may still be on its way to playing for so long.
+constexpr int StateChangeMs = 300;
+
 } // namespace
 
 MediaLoader::MediaLoader(QMediaPlayer *player, QObject *parent) : QObject(parent), mPlayer(player)
 {
+    mStopAgain.setSingleShot(true);
+    mStopAgain.setInterval(StateChangeMs);
+    connect(&mStopAgain, &QTimer::timeout, this, &MediaLoader::stopAgain);
     mRestart.setSingleShot(true);
     connect(&mRestart, &QTimer::timeout, this, &MediaLoader::goOn);
     mPatience.setSingleShot(true);
@@ -21,8 +27,7 @@ MediaLoader::MediaLoader(QMediaPlayer *player, QObject *parent) : QObject(parent
 
 void MediaLoader::load(const QMediaContent &media)
 {
-    mRestart.stop();
-    mPatience.stop();
+    cancelTimers();
     mHasFailed = false;
     mPlayer->setMedia(media);
     if (media.isNull())
@@ -31,8 +36,7 @@ void MediaLoader::load(const QMediaContent &media)
 
 void MediaLoader::unload()
 {
-    mRestart.stop();
-    mPatience.stop();
+    cancelTimers();
     mPlayer->setMedia(QMediaContent());
 }
 
@@ -40,6 +44,8 @@ void MediaLoader::play()
 {
     if (mHasFailed)
         return;
+    cancelTimers();
+    mSincePlay.start();
     mPlayer->play();
     if (isLoading())
         mPatience.start(PatienceMs);
@@ -47,6 +53,7 @@ void MediaLoader::play()
 
 void MediaLoader::pause()
 {
+    mStopAgain.stop();
     if (!mHasFailed)
         mPlayer->pause();
 }
@@ -57,9 +64,28 @@ void MediaLoader::stop()
 {
     mRestart.stop();
     mPatience.stop();
-    if (mPlayer->state() == QMediaPlayer::PlayingState && !mHasFailed)
+    if (mPlayer->state() == QMediaPlayer::PlayingState && !mHasFailed) {
         mPlayer->pause();
+        if (mSincePlay.elapsed() < StateChangeMs)
+            mStopAgain.start();
+    }
     mPlayer->stop();
+}
+
+// Now and then a pipeline that was on its way to playing goes there in spite of the pause.
+void MediaLoader::stopAgain()
+{
+    if (!isLoaded() || mPlayer->state() != QMediaPlayer::StoppedState)
+        return;
+    mPlayer->pause();
+    mPlayer->stop();
+}
+
+void MediaLoader::cancelTimers()
+{
+    mStopAgain.stop();
+    mRestart.stop();
+    mPatience.stop();
 }
 
 void MediaLoader::restart()

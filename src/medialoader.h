@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QElapsedTimer>
 #include <QMediaPlayer>
 #include <QObject>
 #include <QTimer>
@@ -57,11 +58,15 @@ signals:
 
 private:
     void onMediaStatusChanged(QMediaPlayer::MediaStatus status);
+    void stopAgain();
+    void cancelTimers();
     void giveUp();
     void goOn();
     void fail();
 
     QMediaPlayer *mPlayer = nullptr;
+    QElapsedTimer mSincePlay;
+    QTimer mStopAgain;
     QTimer mRestart;
     QMediaContent mRestartMedia;
     qint64 mRestartMs = 0;

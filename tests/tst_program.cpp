@@ -127,6 +127,7 @@ private slots:
     void fullScreenYieldsToOtherPrograms();
     void previousAndNext();
     void slidingToTheEndSkipsNothing();
+    void clickingTheVeryEndOfAPair();
     void playsAListToItsEnd();
     void droppedRecordingPlays();
     void openDialogPlaysTheFirst();
@@ -471,6 +472,23 @@ void tst_Program::slidingToTheEndSkipsNothing()
     QTRY_COMPARE(text("lbl_FileName"), QStringLiteral("two #2 100%.mp4"));
     QTRY_VERIFY(area()->state() == QMediaPlayer::PlayingState && second() >= 1);
     QCOMPARE(text("lbl_FileName"), QStringLiteral("two #2 100%.mp4"));
+}
+
+void tst_Program::clickingTheVeryEndOfAPair()
+{
+    playPair();
+    auto *slider = child<QSlider>("hSlider_Seek");
+    QTRY_COMPARE(slider->maximum(), PairSeconds);
+    QTest::mouseClick(slider, Qt::LeftButton, {}, QPoint(slider->width() - 1, 7));
+    // The row of the rear recording comes next, with the front one beside it.
+    QTRY_COMPARE(text("lbl_FileName"), QStringLiteral("MOVB0001.MP4"));
+    const QMediaPlayer *second = area()->secondPlayer()->player();
+    while (player()->position() == 0) {
+        QVERIFY(second->position() == 0);
+        QVERIFY(QSignalSpy(player(), &QMediaPlayer::positionChanged).wait());
+    }
+    QTRY_VERIFY(second->position() > 0);
+    QVERIFY(second->position() < 5000);
 }
 
 void tst_Program::playsAListToItsEnd()
