@@ -34,6 +34,7 @@ private slots:
     void cleanup() { Configuration::ReleaseInstance(); }
     void defaultValues();
     void settingsReachTheFile();
+    void namesInAnyLanguage();
     void announcements();
     void firstLanguage_data();
     void firstLanguage();
@@ -111,6 +112,22 @@ void TestConfiguration::settingsReachTheFile()
     QCOMPARE(settings(), expected);
     Configuration::ReleaseInstance();
     QCOMPARE(settings(), expected);
+}
+
+/** As an editor writes them, and as Qt does in a file without an encoding of its own. */
+void TestConfiguration::namesInAnyLanguage()
+{
+    const QString name = QStringLiteral("/Straße 車/Łódź");
+    for (const QByteArray &written : {QByteArray("/Straße 車/Łódź"),
+                                      QByteArray("/Stra\\xdf\\x65 \\x8eca/\\x141\\xf3\\x64\\x17a"),
+                                      QByteArray("\"/Straße 車/Łódź\"")}) {
+        writeFile("[General]\nvideoFilePath=" + written + "\n");
+        QCOMPARE(Configuration::GetInstance()->videoFilePath(), name);
+    }
+    Configuration::GetInstance()->setScreenshotSavePath(name);
+    Configuration::ReleaseInstance();
+    QCOMPARE(Configuration::GetInstance()->screenshotSavePath(), name);
+    QVERIFY(fileText().contains("ScreenshotSavePath=" + name.toUtf8()));
 }
 
 void TestConfiguration::announcements()
