@@ -7,17 +7,18 @@
 #include "appname.h"
 #include "computeinfo.h"
 #include "configuration.h"
+#include "filedialogs.h"
 #include "gpsuser.h"
 #include "gyrosampling.h"
 #include "mediaurl.h"
 #include "movefilter.h"
 #include "playlistmodel.h"
 #include "rowdata.h"
+#include "screenshotnotice.h"
 #include "setting.h"
 
 #include <QDateTime>
 #include <QDebug>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QKeyEvent>
 #include <QMessageBox>
@@ -163,7 +164,8 @@ void MainWindows::onUpdateLanguage()
 void MainWindows::openFile()
 {
     qDebug() << "open file--";
-    const QList<QUrl> urls = askForRecordings();
+    const QList<QUrl> urls =
+        askForRecordings(this, tr("Open Files"), Configuration::GetInstance()->videoFilePath());
     int lastRow = -1;
     for (const QUrl &url : urls) {
         if (!QFileInfo(url.toLocalFile()).isDir())
@@ -387,6 +389,9 @@ void MainWindows::connectPlayArea()
     connect(area, &PlayAreaManager::keyPressSignals, this, &MainWindows::onKeyPressEvent);
     connect(area, &PlayAreaManager::fullScreenChanged, this, &MainWindows::onFullScreenChanged);
     connect(area, &PlayAreaManager::dropFile, this, &MainWindows::onDropFile);
+    const auto *notice = new ScreenshotNotice(mUi->lbl_FileName);
+    connect(panel, &ControlPanel::screenshot, notice, &ScreenshotNotice::begin);
+    connect(area, &PlayAreaManager::screenshotDone, notice, &ScreenshotNotice::tell);
 }
 
 void MainWindows::connectPlaylistAndSettings()
@@ -414,15 +419,6 @@ void MainWindows::showMaximizedState()
     const bool maximized = isMaximized();
     mUi->pBtn_Maximize->setChecked(maximized);
     mUi->pBtn_Maximize->setToolTip(maximized ? tr("Restore Down") : tr("Maximize"));
-}
-
-QList<QUrl> MainWindows::askForRecordings()
-{
-    QFileDialog dialog(this, tr("Open Files"), Configuration::GetInstance()->videoFilePath(),
-                       QStringLiteral("*.mov *.mp4 *.avi"));
-    dialog.setAcceptMode(QFileDialog::AcceptOpen);
-    dialog.setFileMode(QFileDialog::ExistingFiles);
-    return dialog.exec() == QDialog::Accepted ? dialog.selectedUrls() : QList<QUrl>();
 }
 
 bool MainWindows::controlPlayback(int key)

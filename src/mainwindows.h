@@ -94,7 +94,6 @@ private:
     void restoreGeometryFromSettings();
 
     void showMaximizedState();
-    QList<QUrl> askForRecordings();
     /** Handles the keys that control playback; returns whether it was one. */
     bool controlPlayback(int key);
     bool isPlayingRow(int rowId) const;

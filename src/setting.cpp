@@ -5,10 +5,10 @@
 #include "ui_setting.h"
 
 #include "configuration.h"
+#include "filedialogs.h"
 #include "movefilter.h"
 
 #include <QDir>
-#include <QFileDialog>
 #include <QGuiApplication>
 #include <QScreen>
 #include <QShowEvent>
@@ -94,9 +94,7 @@ void Setting::on_pBtn_Choose_clicked()
 {
     const QString start = QStandardPaths::standardLocations(QStandardPaths::PicturesLocation)
                               .value(0, QDir::homePath());
-    const QString folder = QFileDialog::getExistingDirectory(this, tr("Open Directory"), start,
-                                                             QFileDialog::ShowDirsOnly |
-                                                                 QFileDialog::DontResolveSymlinks);
+    const QString folder = askForFolder(this, tr("Open Directory"), start);
     if (!folder.isEmpty())
         mUi->lEdit_SavePath->setText(folder);
 }

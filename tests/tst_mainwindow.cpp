@@ -2,9 +2,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "computeinfo.h"
 #include "configuration.h"
+#include "controlpanel.h"
+#include "elidedlabel.h"
 #include "mainwindows.h"
+#include "mediafile.h"
 #include "playlistmodel.h"
 #include "recordingwriter.h"
+#include "screenshotnotice.h"
 #include "speedtray.h"
 
 #include <QApplication>
@@ -18,6 +22,7 @@
 #include <QTableView>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTextDocument>
 #include <QTimer>
 
 #include <memory>
@@ -58,6 +63,9 @@ private slots:
     void changingTheLanguage();
     void allLanguagesAndBack();
     void changingTheSpeedUnit();
+    void screenshotsAreTold();
+    void noticesOfScreenshots_data();
+    void noticesOfScreenshots();
     void warnsOfLargeRecordings_data();
     void warnsOfLargeRecordings();
 
@@ -269,6 +277,72 @@ void tst_MainWindow::changingTheSpeedUnit()
         QCOMPARE(bar->text(), unit == 1 ? QString("000 MPH") : QString("000 km/h"));
         QCOMPARE(gauge->speedText(), unit == 1 ? QString("0 MPH") : QString("0 km/h"));
     }
+}
+
+void tst_MainWindow::screenshotsAreTold()
+{
+    const QTemporaryDir folder;
+    const QString recording = folder.filePath("ride.mp4");
+    QVERIFY(makeMediaFile(recording, 20));
+    const QDir shots(folder.filePath("<b>shots"));
+    Configuration::GetInstance()->setScreenshotSavePath(shots.path());
+    open();
+    mWindow->openRecordings({QUrl::fromLocalFile(recording)});
+    QTRY_COMPARE(child<ControlPanel>("wgt_ControlPanel")->state(), QMediaPlayer::PlayingState);
+    const auto *label = child<QLabel>("lbl_FileName");
+    QTest::mouseClick(child("btn_ScreenShot"), Qt::LeftButton);
+    QTRY_VERIFY(label->text().startsWith("Screenshot saved: "));
+    const QStringList images = shots.entryList(QDir::Files);
+    QCOMPARE(images.size(), 1);
+    QTextDocument toolTip;
+    toolTip.setHtml(label->toolTip());
+    QCOMPARE(toolTip.toPlainText(), "Screenshot saved: " + shots.filePath(images.first()));
+    QTRY_COMPARE(label->text(), QStringLiteral("ride.mp4"));
+    QCOMPARE(label->toolTip(), QString());
+
+    Configuration::GetInstance()->setScreenshotSavePath(recording + "/below");
+    QTest::mouseClick(child("btn_ScreenShot"), Qt::LeftButton);
+    QTRY_VERIFY(label->text().startsWith("No screenshot: "));
+    Configuration::GetInstance()->setLanguage(EnglishUK);
+    QCOMPARE(label->text(), QString());
+}
+
+void tst_MainWindow::noticesOfScreenshots_data()
+{
+    QTest::addColumn<QVector<ScreenshotResult>>("results"); // of two cameras
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("details");
+    const ScreenshotResult front{ScreenshotResult::Saved, "/shots/front.jpeg"};
+    const ScreenshotResult rear{ScreenshotResult::Saved, "/shots/rear.jpeg"};
+    const ScreenshotResult noRear{ScreenshotResult::NoImage, "/shots/rear.jpeg"};
+    const ScreenshotResult noTool{ScreenshotResult::NoTool, "/bin/ffmpeg"};
+    const QString frontSaved = "Screenshot saved: /shots/front.jpeg";
+    const QString notWritten = "No screenshot: /shots/rear.jpeg could not be written";
+    QTest::newRow("both") << QVector<ScreenshotResult>{front, rear} << "Screenshots saved in /shots"
+                          << frontSaved + "\nScreenshot saved: /shots/rear.jpeg";
+    QTest::newRow("one failed") << QVector<ScreenshotResult>{noRear, front} << notWritten
+                                << notWritten + "\n" + frontSaved;
+    QTest::newRow("both failed") << QVector<ScreenshotResult>{noTool, noTool}
+                                 << "No screenshot: the program /bin/ffmpeg is missing"
+                                 << "";
+}
+
+void tst_MainWindow::noticesOfScreenshots()
+{
+    QFETCH(QVector<ScreenshotResult>, results);
+    ElidedLabel label;
+    label.resize(800, 30);
+    label.setFullText("ride.mp4", QFont());
+    ScreenshotNotice notice(&label);
+    for (int request = 0; request < 2; ++request) { // each by itself
+        notice.begin();
+        for (const ScreenshotResult &result : qAsConst(results))
+            notice.tell(result);
+        QTEST(label.text(), "text");
+        QTEST(label.toolTip(), "details");
+    }
+    label.setFullText("next.mp4", QFont());
+    QCOMPARE(label.text(), QStringLiteral("next.mp4"));
 }
 
 void tst_MainWindow::warnsOfLargeRecordings_data()

@@ -184,6 +184,29 @@
     </message>
 </context>
 <context>
+    <name>ScreenshotNotice</name>
+    <message>
+        <source>No screenshot: the folder %1 cannot be created</source>
+        <translation>没有截图：无法创建文件夹 %1</translation>
+    </message>
+    <message>
+        <source>No screenshot: the program %1 is missing</source>
+        <translation>没有截图：缺少程序 %1</translation>
+    </message>
+    <message>
+        <source>No screenshot: %1 could not be written</source>
+        <translation>没有截图：无法写入 %1</translation>
+    </message>
+    <message>
+        <source>Screenshot saved: %1</source>
+        <translation>截图已保存：%1</translation>
+    </message>
+    <message>
+        <source>Screenshots saved in %1</source>
+        <translation>截图已保存到 %1</translation>
+    </message>
+</context>
+<context>
     <name>Setting</name>
     <message>
         <source>Dialog</source>

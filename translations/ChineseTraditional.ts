@@ -25,7 +25,7 @@
     </message>
     <message>
         <source>Capture</source>
-        <translation>擷取畫面</translation>
+        <translation>擷圖</translation>
     </message>
     <message>
         <source>Previous</source>
@@ -181,6 +181,29 @@
     <message>
         <source>Quellfern</source>
         <translation>Quellfern</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenshotNotice</name>
+    <message>
+        <source>No screenshot: the folder %1 cannot be created</source>
+        <translation>沒有擷圖：無法建立資料夾 %1</translation>
+    </message>
+    <message>
+        <source>No screenshot: the program %1 is missing</source>
+        <translation>沒有擷圖：缺少程式 %1</translation>
+    </message>
+    <message>
+        <source>No screenshot: %1 could not be written</source>
+        <translation>沒有擷圖：無法寫入 %1</translation>
+    </message>
+    <message>
+        <source>Screenshot saved: %1</source>
+        <translation>擷圖已儲存：%1</translation>
+    </message>
+    <message>
+        <source>Screenshots saved in %1</source>
+        <translation>擷圖已儲存於 %1</translation>
     </message>
 </context>
 <context>

@@ -184,6 +184,29 @@
     </message>
 </context>
 <context>
+    <name>ScreenshotNotice</name>
+    <message>
+        <source>No screenshot: the folder %1 cannot be created</source>
+        <translation>Pas de capture : impossible de créer le dossier %1</translation>
+    </message>
+    <message>
+        <source>No screenshot: the program %1 is missing</source>
+        <translation>Pas de capture : le programme %1 est introuvable</translation>
+    </message>
+    <message>
+        <source>No screenshot: %1 could not be written</source>
+        <translation>Pas de capture : impossible d’écrire %1</translation>
+    </message>
+    <message>
+        <source>Screenshot saved: %1</source>
+        <translation>Capture enregistrée : %1</translation>
+    </message>
+    <message>
+        <source>Screenshots saved in %1</source>
+        <translation>Captures enregistrées dans %1</translation>
+    </message>
+</context>
+<context>
     <name>Setting</name>
     <message>
         <source>Dialog</source>

@@ -184,6 +184,29 @@
     </message>
 </context>
 <context>
+    <name>ScreenshotNotice</name>
+    <message>
+        <source>No screenshot: the folder %1 cannot be created</source>
+        <translation>Kein Screenshot: Der Ordner %1 kann nicht angelegt werden</translation>
+    </message>
+    <message>
+        <source>No screenshot: the program %1 is missing</source>
+        <translation>Kein Screenshot: Das Programm %1 fehlt</translation>
+    </message>
+    <message>
+        <source>No screenshot: %1 could not be written</source>
+        <translation>Kein Screenshot: %1 konnte nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>Screenshot saved: %1</source>
+        <translation>Screenshot gespeichert: %1</translation>
+    </message>
+    <message>
+        <source>Screenshots saved in %1</source>
+        <translation>Screenshots gespeichert in %1</translation>
+    </message>
+</context>
+<context>
     <name>Setting</name>
     <message>
         <source>Dialog</source>
@@ -291,7 +314,7 @@
     </message>
     <message>
         <source>choose</source>
-        <translation>Wählen</translation>
+        <translation>Auswählen</translation>
     </message>
     <message>
         <source>Save</source>

@@ -184,6 +184,29 @@
     </message>
 </context>
 <context>
+    <name>ScreenshotNotice</name>
+    <message>
+        <source>No screenshot: the folder %1 cannot be created</source>
+        <translation>Nessuna schermata: impossibile creare la cartella %1</translation>
+    </message>
+    <message>
+        <source>No screenshot: the program %1 is missing</source>
+        <translation>Nessuna schermata: manca il programma %1</translation>
+    </message>
+    <message>
+        <source>No screenshot: %1 could not be written</source>
+        <translation>Nessuna schermata: impossibile scrivere %1</translation>
+    </message>
+    <message>
+        <source>Screenshot saved: %1</source>
+        <translation>Schermata salvata: %1</translation>
+    </message>
+    <message>
+        <source>Screenshots saved in %1</source>
+        <translation>Schermate salvate in %1</translation>
+    </message>
+</context>
+<context>
     <name>Setting</name>
     <message>
         <source>Dialog</source>

@@ -184,6 +184,29 @@
     </message>
 </context>
 <context>
+    <name>ScreenshotNotice</name>
+    <message>
+        <source>No screenshot: the folder %1 cannot be created</source>
+        <translation>スクリーンショットを保存できません: フォルダー %1 を作成できません</translation>
+    </message>
+    <message>
+        <source>No screenshot: the program %1 is missing</source>
+        <translation>スクリーンショットを保存できません: プログラム %1 がありません</translation>
+    </message>
+    <message>
+        <source>No screenshot: %1 could not be written</source>
+        <translation>スクリーンショットを保存できません: %1 に書き込めません</translation>
+    </message>
+    <message>
+        <source>Screenshot saved: %1</source>
+        <translation>スクリーンショットを保存しました: %1</translation>
+    </message>
+    <message>
+        <source>Screenshots saved in %1</source>
+        <translation>スクリーンショットの保存先: %1</translation>
+    </message>
+</context>
+<context>
     <name>Setting</name>
     <message>
         <source>Dialog</source>

@@ -184,6 +184,29 @@
     </message>
 </context>
 <context>
+    <name>ScreenshotNotice</name>
+    <message>
+        <source>No screenshot: the folder %1 cannot be created</source>
+        <translation>화면 캡처 없음: 폴더 %1을(를) 만들 수 없습니다</translation>
+    </message>
+    <message>
+        <source>No screenshot: the program %1 is missing</source>
+        <translation>화면 캡처 없음: 프로그램 %1이(가) 없습니다</translation>
+    </message>
+    <message>
+        <source>No screenshot: %1 could not be written</source>
+        <translation>화면 캡처 없음: %1에 쓸 수 없습니다</translation>
+    </message>
+    <message>
+        <source>Screenshot saved: %1</source>
+        <translation>화면 캡처 저장됨: %1</translation>
+    </message>
+    <message>
+        <source>Screenshots saved in %1</source>
+        <translation>화면 캡처가 저장된 폴더: %1</translation>
+    </message>
+</context>
+<context>
     <name>Setting</name>
     <message>
         <source>Dialog</source>

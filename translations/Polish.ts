@@ -122,7 +122,7 @@
     </message>
     <message>
         <source>Duration</source>
-        <translation>Długość</translation>
+        <translation>Czas trwania</translation>
     </message>
     <message>
         <source>Create Date</source>
@@ -181,6 +181,29 @@
     <message>
         <source>Quellfern</source>
         <translation>Quellfern</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenshotNotice</name>
+    <message>
+        <source>No screenshot: the folder %1 cannot be created</source>
+        <translation>Brak zrzutu ekranu: nie można utworzyć folderu %1</translation>
+    </message>
+    <message>
+        <source>No screenshot: the program %1 is missing</source>
+        <translation>Brak zrzutu ekranu: brakuje programu %1</translation>
+    </message>
+    <message>
+        <source>No screenshot: %1 could not be written</source>
+        <translation>Brak zrzutu ekranu: nie można zapisać %1</translation>
+    </message>
+    <message>
+        <source>Screenshot saved: %1</source>
+        <translation>Zapisano zrzut ekranu: %1</translation>
+    </message>
+    <message>
+        <source>Screenshots saved in %1</source>
+        <translation>Zapisano zrzuty ekranu w %1</translation>
     </message>
 </context>
 <context>

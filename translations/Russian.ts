@@ -25,7 +25,7 @@
     </message>
     <message>
         <source>Capture</source>
-        <translation>Снимок экрана</translation>
+        <translation>Снимок кадра</translation>
     </message>
     <message>
         <source>Previous</source>
@@ -122,7 +122,7 @@
     </message>
     <message>
         <source>Duration</source>
-        <translation>Время</translation>
+        <translation>Длительность</translation>
     </message>
     <message>
         <source>Create Date</source>
@@ -181,6 +181,29 @@
     <message>
         <source>Quellfern</source>
         <translation>Quellfern</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenshotNotice</name>
+    <message>
+        <source>No screenshot: the folder %1 cannot be created</source>
+        <translation>Нет снимка кадра: не удалось создать папку %1</translation>
+    </message>
+    <message>
+        <source>No screenshot: the program %1 is missing</source>
+        <translation>Нет снимка кадра: отсутствует программа %1</translation>
+    </message>
+    <message>
+        <source>No screenshot: %1 could not be written</source>
+        <translation>Нет снимка кадра: не удалось записать %1</translation>
+    </message>
+    <message>
+        <source>Screenshot saved: %1</source>
+        <translation>Снимок кадра сохранён: %1</translation>
+    </message>
+    <message>
+        <source>Screenshots saved in %1</source>
+        <translation>Снимки кадров сохранены в %1</translation>
     </message>
 </context>
 <context>
@@ -275,7 +298,7 @@
     </message>
     <message>
         <source>SpeedUnit</source>
-        <translation>Единица скорости</translation>
+        <translation>Единицы скорости</translation>
     </message>
     <message>
         <source>Km/h</source>
