@@ -4,6 +4,7 @@
 
 #include "ui_mainwindows.h"
 
+#include "accessiblerole.h"
 #include "appname.h"
 #include "computeinfo.h"
 #include "configuration.h"
@@ -55,6 +56,7 @@ void shell::sleep(unsigned int ms)
 MainWindows::MainWindows(QWidget *parent)
     : QDialog(parent), mUi(std::make_unique<Ui::MainWindows>())
 {
+    installAccessibleRoles();
     mUi->setupUi(this);
     setWindowTitle(APP_NAME);
     installMoving();
@@ -419,6 +421,7 @@ void MainWindows::showMaximizedState()
     const bool maximized = isMaximized();
     mUi->pBtn_Maximize->setChecked(maximized);
     mUi->pBtn_Maximize->setToolTip(maximized ? tr("Restore Down") : tr("Maximize"));
+    mUi->pBtn_Maximize->setAccessibleName(mUi->pBtn_Maximize->toolTip());
 }
 
 bool MainWindows::controlPlayback(int key)

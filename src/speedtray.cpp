@@ -2,7 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "speedtray.h"
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <QPainter>
+#include <QVariant>
 
 #include "configuration.h"
 #include "gaugeface.h"
@@ -39,7 +42,9 @@ bool isMetric()
 SpeedTray::SpeedTray(QWidget *parent)
     : QWidget(parent), pixmap(QStringLiteral(":/image/speed.png")), angle(angleOnDial(0))
 {
-    update();
+    setProperty("accessibleRole",
+                QStringLiteral("Graphic")); // here: what is said about it is made with it
+    showSpeed();
 }
 
 void SpeedTray::setSpeed(int kmh)
@@ -49,17 +54,27 @@ void SpeedTray::setSpeed(int kmh)
     mSpeedKmh = kmh;
     speed = isMetric() ? kmh : int(kmh / KmPerMile);
     angle = angleOnDial(speed);
-    update();
+    showSpeed();
 }
 
 QString SpeedTray::speedText() const
 {
-    return (isMetric() ? QStringLiteral("%1 km/h") : QStringLiteral("%1 MPH")).arg(speed);
+    // In the words of the control bar, which shows the same speed.
+    const QString text = isMetric() ? QCoreApplication::translate("ControlPanel", "%1 km/h")
+                                    : QCoreApplication::translate("ControlPanel", "%1 MPH");
+    return text.arg(speed);
 }
 
 int SpeedTray::angleOnDial(int number)
 {
     return number * SweepDeg / MaxSpeed + StartAngleDeg;
+}
+
+void SpeedTray::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        showSpeed();
 }
 
 void SpeedTray::paintEvent(QPaintEvent *)
@@ -69,6 +84,12 @@ void SpeedTray::paintEvent(QPaintEvent *)
     drawGaugeFace(painter, gaugeSquare(size()), pixmap);
     drawSpeedText(painter);
     drawNeedle(painter);
+}
+
+void SpeedTray::showSpeed()
+{
+    setAccessibleDescription(speedText()); // the picture says nothing to a screen reader
+    update();
 }
 
 QRectF SpeedTray::textRect() const

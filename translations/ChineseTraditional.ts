@@ -55,6 +55,34 @@
         <source>%1 MPH</source>
         <translation>%1 mph</translation>
     </message>
+    <message>
+        <source>Date and time</source>
+        <translation>日期與時間</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>速度</translation>
+    </message>
+    <message>
+        <source>Coordinates</source>
+        <translation>座標</translation>
+    </message>
+    <message>
+        <source>Position in the recording</source>
+        <translation>播放位置</translation>
+    </message>
+    <message>
+        <source>Elapsed and total time</source>
+        <translation>已播放時間與總時間</translation>
+    </message>
+    <message>
+        <source>Playback rate</source>
+        <translation>播放速度</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>靜音</translation>
+    </message>
 </context>
 <context>
     <name>FComboBox</name>
@@ -112,6 +140,34 @@
     <message>
         <source>Error</source>
         <translation>錯誤</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>影片</translation>
+    </message>
+    <message>
+        <source>Playlist</source>
+        <translation>播放清單</translation>
+    </message>
+    <message>
+        <source>Map</source>
+        <translation>地圖</translation>
+    </message>
+    <message>
+        <source>Speed gauge</source>
+        <translation>速度表</translation>
+    </message>
+    <message>
+        <source>Compass</source>
+        <translation>指南針</translation>
+    </message>
+    <message>
+        <source>G-sensor chart</source>
+        <translation>重力感測曲線圖</translation>
+    </message>
+    <message>
+        <source>Playback controls</source>
+        <translation>播放控制</translation>
     </message>
 </context>
 <context>

@@ -55,6 +55,34 @@
         <source>%1 MPH</source>
         <translation>%1 mph</translation>
     </message>
+    <message>
+        <source>Date and time</source>
+        <translation>Datum und Uhrzeit</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Geschwindigkeit</translation>
+    </message>
+    <message>
+        <source>Coordinates</source>
+        <translation>Koordinaten</translation>
+    </message>
+    <message>
+        <source>Position in the recording</source>
+        <translation>Position in der Aufnahme</translation>
+    </message>
+    <message>
+        <source>Elapsed and total time</source>
+        <translation>Vergangene und gesamte Zeit</translation>
+    </message>
+    <message>
+        <source>Playback rate</source>
+        <translation>Wiedergabegeschwindigkeit</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Stummschalten</translation>
+    </message>
 </context>
 <context>
     <name>FComboBox</name>
@@ -112,6 +140,34 @@
     <message>
         <source>Error</source>
         <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>Videobild</translation>
+    </message>
+    <message>
+        <source>Playlist</source>
+        <translation>Wiedergabeliste</translation>
+    </message>
+    <message>
+        <source>Map</source>
+        <translation>Karte</translation>
+    </message>
+    <message>
+        <source>Speed gauge</source>
+        <translation>Tachometer</translation>
+    </message>
+    <message>
+        <source>Compass</source>
+        <translation>Kompass</translation>
+    </message>
+    <message>
+        <source>G-sensor chart</source>
+        <translation>G-Sensor-Diagramm</translation>
+    </message>
+    <message>
+        <source>Playback controls</source>
+        <translation>Wiedergabesteuerung</translation>
     </message>
 </context>
 <context>

@@ -55,6 +55,34 @@
         <source>%1 MPH</source>
         <translation>%1 mph</translation>
     </message>
+    <message>
+        <source>Date and time</source>
+        <translation>Data i godzina</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Prędkość</translation>
+    </message>
+    <message>
+        <source>Coordinates</source>
+        <translation>Współrzędne</translation>
+    </message>
+    <message>
+        <source>Position in the recording</source>
+        <translation>Pozycja w nagraniu</translation>
+    </message>
+    <message>
+        <source>Elapsed and total time</source>
+        <translation>Czas odtworzony i całkowity</translation>
+    </message>
+    <message>
+        <source>Playback rate</source>
+        <translation>Szybkość odtwarzania</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Wycisz</translation>
+    </message>
 </context>
 <context>
     <name>FComboBox</name>
@@ -112,6 +140,34 @@
     <message>
         <source>Error</source>
         <translation>Błąd</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>Obraz</translation>
+    </message>
+    <message>
+        <source>Playlist</source>
+        <translation>Lista odtwarzania</translation>
+    </message>
+    <message>
+        <source>Map</source>
+        <translation>Mapa</translation>
+    </message>
+    <message>
+        <source>Speed gauge</source>
+        <translation>Prędkościomierz</translation>
+    </message>
+    <message>
+        <source>Compass</source>
+        <translation>Kompas</translation>
+    </message>
+    <message>
+        <source>G-sensor chart</source>
+        <translation>Wykres czujnika przeciążeń</translation>
+    </message>
+    <message>
+        <source>Playback controls</source>
+        <translation>Sterowanie odtwarzaniem</translation>
     </message>
 </context>
 <context>

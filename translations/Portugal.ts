@@ -55,6 +55,34 @@
         <source>%1 MPH</source>
         <translation>%1 mph</translation>
     </message>
+    <message>
+        <source>Date and time</source>
+        <translation>Data e hora</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Velocidade</translation>
+    </message>
+    <message>
+        <source>Coordinates</source>
+        <translation>Coordenadas</translation>
+    </message>
+    <message>
+        <source>Position in the recording</source>
+        <translation>Posição na gravação</translation>
+    </message>
+    <message>
+        <source>Elapsed and total time</source>
+        <translation>Tempo decorrido e total</translation>
+    </message>
+    <message>
+        <source>Playback rate</source>
+        <translation>Velocidade de reprodução</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Silenciar</translation>
+    </message>
 </context>
 <context>
     <name>FComboBox</name>
@@ -112,6 +140,34 @@
     <message>
         <source>Error</source>
         <translation>Erro</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>Vídeo</translation>
+    </message>
+    <message>
+        <source>Playlist</source>
+        <translation>Lista de reprodução</translation>
+    </message>
+    <message>
+        <source>Map</source>
+        <translation>Mapa</translation>
+    </message>
+    <message>
+        <source>Speed gauge</source>
+        <translation>Velocímetro</translation>
+    </message>
+    <message>
+        <source>Compass</source>
+        <translation>Bússola</translation>
+    </message>
+    <message>
+        <source>G-sensor chart</source>
+        <translation>Gráfico do sensor G</translation>
+    </message>
+    <message>
+        <source>Playback controls</source>
+        <translation>Controlos de reprodução</translation>
     </message>
 </context>
 <context>

@@ -55,6 +55,34 @@
         <source>%1 MPH</source>
         <translation>%1 миль/ч</translation>
     </message>
+    <message>
+        <source>Date and time</source>
+        <translation>Дата и время</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Скорость</translation>
+    </message>
+    <message>
+        <source>Coordinates</source>
+        <translation>Координаты</translation>
+    </message>
+    <message>
+        <source>Position in the recording</source>
+        <translation>Позиция в записи</translation>
+    </message>
+    <message>
+        <source>Elapsed and total time</source>
+        <translation>Прошедшее и общее время</translation>
+    </message>
+    <message>
+        <source>Playback rate</source>
+        <translation>Скорость воспроизведения</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Выключить звук</translation>
+    </message>
 </context>
 <context>
     <name>FComboBox</name>
@@ -112,6 +140,34 @@
     <message>
         <source>Error</source>
         <translation>Ошибка</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>Видео</translation>
+    </message>
+    <message>
+        <source>Playlist</source>
+        <translation>Список воспроизведения</translation>
+    </message>
+    <message>
+        <source>Map</source>
+        <translation>Карта</translation>
+    </message>
+    <message>
+        <source>Speed gauge</source>
+        <translation>Спидометр</translation>
+    </message>
+    <message>
+        <source>Compass</source>
+        <translation>Компас</translation>
+    </message>
+    <message>
+        <source>G-sensor chart</source>
+        <translation>График G-сенсора</translation>
+    </message>
+    <message>
+        <source>Playback controls</source>
+        <translation>Управление воспроизведением</translation>
     </message>
 </context>
 <context>

@@ -55,6 +55,34 @@
         <source>%1 MPH</source>
         <translation>%1 mph</translation>
     </message>
+    <message>
+        <source>Date and time</source>
+        <translation>Fecha y hora</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Velocidad</translation>
+    </message>
+    <message>
+        <source>Coordinates</source>
+        <translation>Coordenadas</translation>
+    </message>
+    <message>
+        <source>Position in the recording</source>
+        <translation>Posición en la grabación</translation>
+    </message>
+    <message>
+        <source>Elapsed and total time</source>
+        <translation>Tiempo transcurrido y total</translation>
+    </message>
+    <message>
+        <source>Playback rate</source>
+        <translation>Velocidad de reproducción</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Silenciar</translation>
+    </message>
 </context>
 <context>
     <name>FComboBox</name>
@@ -112,6 +140,34 @@
     <message>
         <source>Error</source>
         <translation>Error</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>Vídeo</translation>
+    </message>
+    <message>
+        <source>Playlist</source>
+        <translation>Lista de reproducción</translation>
+    </message>
+    <message>
+        <source>Map</source>
+        <translation>Mapa</translation>
+    </message>
+    <message>
+        <source>Speed gauge</source>
+        <translation>Velocímetro</translation>
+    </message>
+    <message>
+        <source>Compass</source>
+        <translation>Brújula</translation>
+    </message>
+    <message>
+        <source>G-sensor chart</source>
+        <translation>Gráfico del sensor G</translation>
+    </message>
+    <message>
+        <source>Playback controls</source>
+        <translation>Controles de reproducción</translation>
     </message>
 </context>
 <context>
