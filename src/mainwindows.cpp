@@ -11,6 +11,7 @@
 #include "filedialogs.h"
 #include "gpsuser.h"
 #include "gyrosampling.h"
+#include "mapreload.h"
 #include "mediaurl.h"
 #include "movefilter.h"
 #include "playlistmodel.h"
@@ -160,7 +161,6 @@ void MainWindows::onUpdateLanguage()
     setTitleFileName(QString()); // cleared by the form, until the next recording starts
     setWindowTitle(QCoreApplication::applicationName());
     showMaximizedState(); // the form knows one of the two tooltips only
-    mUi->wgt_MapView->setMapType(Configuration::GetInstance()->maps());
 }
 
 void MainWindows::openFile()
@@ -405,6 +405,7 @@ void MainWindows::connectPlaylistAndSettings()
             &MainWindows::onAllGpsDataParserFinished);
     connect(Configuration::GetInstance(), &Configuration::updateLanguage, this,
             &MainWindows::onUpdateLanguage);
+    new MapReload(mUi->wgt_MapView); // first: a page of another provider makes its own needless
     connect(Configuration::GetInstance(), &Configuration::mapsChanged, mUi->wgt_MapView,
             &MapWebView::setMapType);
 }

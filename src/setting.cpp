@@ -109,10 +109,12 @@ void Setting::on_pBtn_OK_clicked()
     const int maps = chosenIndex(*mUi->cBox_Maps, configuration->maps());
     const int speedUnit = chosenIndex(*mUi->cBox_SpeedUnit, configuration->speedUnit());
     setEnabled(false);
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor); // another map is waited for
     configuration->setLanguage(Language_e(language));
     configuration->setScreenshotSavePath(folder);
     configuration->setMaps(MapTypes(maps));
     configuration->setSpeedUnit(speedUnit);
+    QGuiApplication::restoreOverrideCursor();
     accept();
     setEnabled(true);
 }

@@ -18,12 +18,16 @@
 #include <QProcess>
 #include <QPushButton>
 #include <QSettings>
+#include <QSignalSpy>
 #include <QStandardPaths>
 #include <QTableView>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTestEventLoop>
 #include <QTextDocument>
 #include <QTimer>
+#include <QWebEnginePage>
+#include <QWebEngineView>
 
 #include <memory>
 
@@ -62,6 +66,8 @@ private slots:
     void titlesAreElided();
     void changingTheLanguage();
     void allLanguagesAndBack();
+    void savingSettingsReloadsTheMap_data();
+    void savingSettingsReloadsTheMap();
     void changingTheSpeedUnit();
     void screenshotsAreTold();
     void noticesOfScreenshots_data();
@@ -259,6 +265,55 @@ void tst_MainWindow::allLanguagesAndBack()
     QCOMPARE(seen.size(), 12); // the two kinds of English read the same
     Configuration::GetInstance()->setLanguage(EnglishUS);
     QCOMPARE(texts(), english);
+}
+
+void tst_MainWindow::savingSettingsReloadsTheMap_data()
+{
+    QTest::addColumn<int>("language");
+    QTest::addColumn<int>("maps");
+    QTest::addColumn<int>("loads"); // pages that have begun to load
+    QTest::addColumn<QString>("page");
+    QTest::newRow("nothing") << int(EnglishUS) << int(MapBaidu) << 0 << "BaiduMapIndex.html en-US";
+    QTest::newRow("language") << int(German) << int(MapBaidu) << 1 << "BaiduMapIndex.html de";
+    QTest::newRow("map") << int(EnglishUS) << int(MapGoogle) << 1
+                         << "WG_GoogleMapIndex_en_talvor.html en";
+    QTest::newRow("both") << int(French) << int(MapGoogle) << 1 << "WG_GoogleMapIndex_fr.html fr";
+    QTest::newRow("another country's")
+        << int(EnglishUK) << int(MapOpenStreetMap) << 1 << "OpenStreetMap.html en-GB";
+}
+
+void tst_MainWindow::savingSettingsReloadsTheMap()
+{
+    QFETCH(int, language);
+    QFETCH(int, maps);
+    open();
+    QWebEnginePage *shown = mWindow->findChild<QWebEngineView *>()->page();
+    const auto pageTold = [shown](const QString &question) {
+        const auto answer = std::make_shared<QString>(); // which may come too late
+        shown->runJavaScript(question, [answer](const QVariant &value) {
+            *answer = value.toString();
+            QTestEventLoop::instance().exitLoop();
+        });
+        QTestEventLoop::instance().enterLoop(5); // QTest::qWait() starves the web engine
+        return *answer;
+    };
+    const QString question =
+        QStringLiteral("document.readyState + ' ' + location.pathname.split('/').pop() + ' ' + "
+                       "document.documentElement.lang");
+    QTRY_VERIFY_WITH_TIMEOUT(pageTold(question).startsWith("complete BaiduMapIndex.html"), 20000);
+    QSignalSpy loads(shown, &QWebEnginePage::loadStarted);
+    QTimer::singleShot(0, mWindow.get(), [language, maps] {
+        QWidget *dialog = QApplication::activeModalWidget();
+        dialog->findChild<QComboBox *>("cBox_Language")->setCurrentIndex(language);
+        dialog->findChild<QComboBox *>("cBox_Maps")->setCurrentIndex(maps);
+        QTest::mouseClick(dialog->findChild<QPushButton *>("pBtn_OK"), Qt::LeftButton);
+    });
+    QTest::mouseClick(child("pBtn_Step"), Qt::LeftButton);
+    QCOMPARE(Configuration::GetInstance()->language(), Language_e(language));
+    QCOMPARE(Configuration::GetInstance()->maps(), MapTypes(maps));
+    QFETCH(QString, page);
+    QTRY_COMPARE_WITH_TIMEOUT(pageTold(question), "complete " + page, 20000);
+    QTEST(loads.size(), "loads");
 }
 
 void tst_MainWindow::changingTheSpeedUnit()

@@ -172,10 +172,13 @@ void TestSetting::savesWhatWasChosenAtFirst()
             QTest::keyClick(mDialog->windowHandle(), key);
         QCoreApplication::processEvents();
         title = child<QLabel>("lbl_Title")->text();
+        QVERIFY(QGuiApplication::overrideCursor());
+        QCOMPARE(QGuiApplication::overrideCursor()->shape(), Qt::WaitCursor);
     });
     click("pBtn_OK");
     QCoreApplication::removeTranslator(&texts);
     QVERIFY2(title.startsWith("Geschwindigkeit"), qPrintable(title)); // retranslated meanwhile
+    QVERIFY(!QGuiApplication::overrideCursor());
     QCOMPARE(child<QComboBox>("cBox_Maps")->currentIndex(), int(MapGoogle));
     QCOMPARE(*mFinished, QList<QVariantList>{{QDialog::Accepted}});
     QCOMPARE(stored(), QByteArray("ScreenshotSavePath=/new\nlanguage=3\nmaps=1\nspeedUnit=1\n"));
