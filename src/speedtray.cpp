@@ -8,6 +8,7 @@
 #include <QVariant>
 
 #include "configuration.h"
+#include "fittedfont.h"
 #include "gaugeface.h"
 
 namespace {
@@ -28,6 +29,9 @@ constexpr double TextTop = 0.76; // as a part of the dial's side
 constexpr int LargeTextSide = 201;
 constexpr int SmallTextPoints = 10;
 constexpr int LargeTextPoints = 14;
+// Between the first and the last number of the dial, as parts of its side.
+constexpr double TextRoomWidth = 0.42;
+constexpr double TextRoomHeight = 0.125;
 
 const QColor NeedleShadow(78, 18, 18);
 const QColor NeedleLight(Qt::darkRed);
@@ -103,9 +107,12 @@ QRectF SpeedTray::textRect() const
 
 void SpeedTray::drawSpeedText(QPainter &painter) const
 {
-    const bool isLarge = gaugeSquare(size()).width() >= LargeTextSide;
+    const int side = gaugeSquare(size()).width();
+    const int points = side >= LargeTextSide ? LargeTextPoints : SmallTextPoints;
+    const QSize room(int(side * TextRoomWidth), int(side * TextRoomHeight));
     painter.setPen(QPen(TextColor, 3.0, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
-    painter.setFont(QFont(QStringLiteral("Calibri"), isLarge ? LargeTextPoints : SmallTextPoints));
+    // The dial does not grow with the text of the screen.
+    painter.setFont(fittedFont(QFont(QStringLiteral("Calibri"), points), speedText(), room));
     // The rectangle is lower than a line of the font, and at many sizes narrower than the text.
     painter.drawText(textRect(), Qt::AlignHCenter | Qt::AlignVCenter | Qt::TextDontClip,
                      speedText());

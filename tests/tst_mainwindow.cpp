@@ -222,6 +222,7 @@ void tst_MainWindow::titlesAreElided()
     mWindow->setTitleFileName(name);
     QVERIFY(label->text().startsWith(QLatin1Char('A')) && label->text().endsWith(QLatin1Char('Z')));
     QVERIFY(label->text().contains(QChar(0x2026)));
+    QCOMPARE(label->toolTip(), name);
     QTRY_COMPARE(mWindow->geometry(), DefaultRect); // a long name does not widen the window
     QCOMPARE(child<QLabel>("lbl_Title")->text(), Title);
 
