@@ -11,6 +11,7 @@
 #include "filedialogs.h"
 #include "gpsuser.h"
 #include "gyrosampling.h"
+#include "languagefont.h"
 #include "mapreload.h"
 #include "mediaurl.h"
 #include "movefilter.h"
@@ -36,7 +37,7 @@ QFont pixelFont(const QString &family, int pixelSize, QFont::Weight weight)
     QFont font(family);
     font.setPixelSize(pixelSize);
     font.setWeight(weight);
-    return font;
+    return languageFont(font, Configuration::GetInstance()->language());
 }
 
 /** The hemisphere letter carries the sign. */

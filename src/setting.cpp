@@ -6,6 +6,7 @@
 
 #include "configuration.h"
 #include "filedialogs.h"
+#include "languagefont.h"
 #include "movefilter.h"
 
 #include <QDir>
@@ -67,6 +68,7 @@ Setting::Setting(QWidget *parent) : QDialog(parent), mUi(std::make_unique<Ui::Se
     styleControls();
     installMoving();
     showStoredValues();
+    showFonts();
 }
 
 Setting::~Setting() = default;
@@ -165,6 +167,16 @@ void Setting::retranslate()
     const int maps = mUi->cBox_Maps->currentIndex();
     mUi->retranslateUi(this);
     mUi->cBox_Maps->setCurrentIndex(maps);
+    showFonts();
+}
+
+/** The title in the interface's language, and in the list each language in its own. */
+void Setting::showFonts()
+{
+    mUi->lbl_Title->setFont(
+        languageFont(mUi->lbl_Title->font(), Configuration::GetInstance()->language()));
+    for (int i = 0; i < mUi->cBox_Language->count(); ++i)
+        mUi->cBox_Language->setItemData(i, languageFont(font(), Language_e(i)), Qt::FontRole);
 }
 
 void Setting::placeOverParent()
