@@ -148,7 +148,9 @@ void TestConfiguration::announcements()
         configuration->setLanguage(language);
     QCOMPARE(maps, (QList<QPair<int, int>>{{1, 1}, {0, 0}, {2, 2}}));
     QCOMPARE(languages, QList<int>({2, 2, 3}));
-    configuration->setLanguage(French); // whose translation is not part of this program
+    // The translation of the first is not part of this program.
+    for (const int unknown : {int(French), -1})
+        configuration->setLanguage(Language_e(unknown));
     QCOMPARE(languages.size(), 3);
     QCOMPARE(configuration->language(), EnglishUK);
 }

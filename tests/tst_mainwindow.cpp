@@ -6,6 +6,7 @@
 #include "elidedlabel.h"
 #include "mainwindows.h"
 #include "mediafile.h"
+#include "playareamanager.h"
 #include "playlistmodel.h"
 #include "recordingwriter.h"
 #include "screenshotnotice.h"
@@ -13,12 +14,15 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QFileDialog>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QProcess>
 #include <QPushButton>
 #include <QSettings>
 #include <QSignalSpy>
+#include <QSlider>
 #include <QStandardPaths>
 #include <QTableView>
 #include <QTemporaryDir>
@@ -69,6 +73,8 @@ private slots:
     void savingSettingsReloadsTheMap_data();
     void savingSettingsReloadsTheMap();
     void changingTheSpeedUnit();
+    void showsTheVolume();
+    void openingAFolderChangesNothing();
     void screenshotsAreTold();
     void noticesOfScreenshots_data();
     void noticesOfScreenshots();
@@ -321,7 +327,9 @@ void tst_MainWindow::changingTheSpeedUnit()
 {
     open();
     const auto *bar = child<QLabel>("pBtn_SP");
-    const auto *gauge = child<SpeedTray>("wgt_Speed");
+    auto *gauge = child<SpeedTray>("wgt_Speed");
+    child<ControlPanel>("wgt_ControlPanel")->setGpsSpeed(100);
+    gauge->setSpeed(100);
     for (const int unit : {1, 0}) {
         QTimer::singleShot(0, mWindow.get(), [unit] {
             QWidget *dialog = QApplication::activeModalWidget();
@@ -330,9 +338,37 @@ void tst_MainWindow::changingTheSpeedUnit()
         });
         QTest::mouseClick(child("pBtn_Step"), Qt::LeftButton);
         QCOMPARE(Configuration::GetInstance()->speedUnit(), unit);
-        QCOMPARE(bar->text(), unit == 1 ? QString("000 MPH") : QString("000 km/h"));
-        QCOMPARE(gauge->speedText(), unit == 1 ? QString("0 MPH") : QString("0 km/h"));
+        QCOMPARE(bar->text(), unit == 1 ? QString("062 MPH") : QString("100 km/h"));
+        QCOMPARE(gauge->speedText(), unit == 1 ? QString("62 MPH") : QString("100 km/h"));
+        QCOMPARE(gauge->needleAngleDeg(), unit == 1 ? -59 : -13);
     }
+}
+
+/** On a logarithmic scale: 1 - 100^-v for a volume v of 1. */
+void tst_MainWindow::showsTheVolume()
+{
+    open();
+    const auto *slider = child<QSlider>("hSlider_Volume");
+    QCOMPARE(slider->value(), 99);
+    child<PlayAreaManager>("wgt_PlayArea")->setVolume(20);
+    QTRY_COMPARE(slider->value(), 60);
+}
+
+void tst_MainWindow::openingAFolderChangesNothing()
+{
+    const QTemporaryDir folder;
+    QVERIFY(QDir(folder.path()).mkpath("CARD.MP4"));
+    Configuration::GetInstance()->setVideoFilePath(QDir::rootPath());
+    open();
+    QTimer::singleShot(0, mWindow.get(), [&] {
+        auto *dialog = mWindow->findChild<QFileDialog *>();
+        dialog->setFileMode(QFileDialog::Directory); // some desktops' dialogs give folders as well
+        dialog->findChild<QLineEdit *>()->setText(folder.filePath("CARD.MP4"));
+        QMetaObject::invokeMethod(dialog, "accept");
+    });
+    QTest::mouseClick(child("btn_OpenFile"), Qt::LeftButton);
+    QCOMPARE(child<QTableView>("tbl_PlayListView")->model()->rowCount(), 0);
+    QCOMPARE(Configuration::GetInstance()->videoFilePath(), QDir::rootPath());
 }
 
 void tst_MainWindow::screenshotsAreTold()
@@ -425,6 +461,7 @@ void tst_MainWindow::warnsOfLargeRecordings()
     QFETCH(QString, warning);
     ComputeInfo *computer = ComputeInfo::GetInstance();
     computer->isHDDecodeH264 = computer->isHDDecodeH265 = computer->mCpuLevelH = isCapable;
+    computer->hardwareInfo = QStringLiteral("Some Graphics 4000");
     const QTemporaryDir folder;
     RecordingWriter writer;
     writer.tracks = {Mp4::videoTrack(quint16(size.width()), quint16(size.height()), 300, coding)};
@@ -436,17 +473,20 @@ void tst_MainWindow::warnsOfLargeRecordings()
     QTRY_COMPARE(model->getVideoSize(0), size);
 
     QString text;
+    QString title;
     QTimer box;
-    connect(&box, &QTimer::timeout, this, [&text] {
+    connect(&box, &QTimer::timeout, this, [&] {
         auto *shown = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
         if (!shown)
             return;
         text = shown->text();
+        title = shown->windowTitle();
         shown->accept();
     });
     box.start(20);
     QCOMPARE(mWindow->isSuportH264orH265(0), warning.isEmpty());
     QVERIFY2(warning.isEmpty() ? text.isEmpty() : text.endsWith(warning), qPrintable(text));
+    QCOMPARE(title, warning.isEmpty() ? QString() : QStringLiteral("Error Some Graphics 4000"));
 }
 
 QTEST_MAIN(tst_MainWindow)

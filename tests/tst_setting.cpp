@@ -41,6 +41,8 @@ private slots:
     void showsAndKeepsStoredValues_data();
     void showsAndKeepsStoredValues();
     void savesWhatWasChosenAtFirst();
+    void savesInOrder();
+    void tabOrder();
     void leaves_data();
     void leaves();
     void choosesFolder();
@@ -184,6 +186,33 @@ void TestSetting::savesWhatWasChosenAtFirst()
     QCOMPARE(stored(), QByteArray("ScreenshotSavePath=/new\nlanguage=3\nmaps=1\nspeedUnit=1\n"));
 }
 
+/** Each setting is in the file, and none behind it, when its change is announced. */
+void TestSetting::savesInOrder()
+{
+    open("ScreenshotSavePath=/old\nlanguage=2\nmaps=2\nspeedUnit=0\n");
+    choose(EnglishUK, MapGoogle, 1, "/new");
+    QByteArrayList files;
+    const auto note = [&] { files.append(stored()); };
+    connect(Configuration::GetInstance(), &Configuration::updateLanguage, mDialog.get(), note);
+    connect(Configuration::GetInstance(), &Configuration::mapsChanged, mDialog.get(), note);
+    connect(mDialog.get(), &QDialog::accepted, mDialog.get(), note);
+    click("pBtn_OK");
+    QCOMPARE(files, QByteArrayList({"ScreenshotSavePath=/old\nlanguage=3\nmaps=2\nspeedUnit=0\n",
+                                    "ScreenshotSavePath=/new\nlanguage=3\nmaps=1\nspeedUnit=0\n",
+                                    "ScreenshotSavePath=/new\nlanguage=3\nmaps=1\nspeedUnit=1\n"}));
+}
+
+void TestSetting::tabOrder()
+{
+    open();
+    child<QWidget>("cBox_Language")->setFocus();
+    for (const char *next : {"cBox_Maps", "cBox_SpeedUnit", "lEdit_SavePath", "pBtn_Choose",
+                             "pBtn_OK", "pBtn_Cancel", "cBox_Language"}) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        QCOMPARE(QApplication::focusWidget()->objectName(), QLatin1String(next));
+    }
+}
+
 void TestSetting::leaves_data()
 {
     QTest::addColumn<QByteArray>("focus");
@@ -232,6 +261,8 @@ void TestSetting::choosesFolder()
         QCOMPARE(start, mHome->filePath("Pictures"));
         QCOMPARE(child<QLineEdit>("lEdit_SavePath")->text(),
                  chosen.isEmpty() ? "/old" : mHome->filePath(chosen));
+        QCOMPARE(child<QLineEdit>("lEdit_SavePath")->toolTip(),
+                 child<QLineEdit>("lEdit_SavePath")->text());
     }
     QCOMPARE(stored(), QByteArray("ScreenshotSavePath=/old\n"));
 }
