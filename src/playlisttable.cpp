@@ -165,7 +165,7 @@ void PlaylistTable::fitFonts()
 
 void PlaylistTable::fitHeaderFont()
 {
-    QFont fitted = font();
+    QFont fitted = mCells->font; // no larger than theirs: the header is lower than the rows
     for (int column = 0; column < int(std::size(ColumnWidths)); ++column)
         fitted = fittedFont(fitted, headerText(column),
                             {ColumnWidths[column] - TextMargins, HeaderHeight});
