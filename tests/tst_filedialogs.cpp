@@ -42,7 +42,7 @@ void TestFileDialogs::initTestCase()
 void TestFileDialogs::listsRecordings()
 {
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-    QTimer::singleShot(0, this, [this] {
+    QTimer::singleShot(0, this, [] {
         auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
         const auto *list = dialog->findChild<QListView *>("listView");
         QTRY_COMPARE(list->model()->rowCount(list->rootIndex()), 2);
