@@ -395,6 +395,7 @@ void tst_MainWindow::screenshotsAreTold()
     Configuration::GetInstance()->setScreenshotSavePath(recording + "/below");
     QTest::mouseClick(child("btn_ScreenShot"), Qt::LeftButton);
     QTRY_VERIFY(label->text().startsWith("No screenshot: "));
+    QVERIFY2(!label->toolTip().contains("saved"), "by the request before");
     Configuration::GetInstance()->setLanguage(EnglishUK);
     QCOMPARE(label->text(), QString());
 }
