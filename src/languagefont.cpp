@@ -19,9 +19,9 @@ struct HanFont
 
 constexpr HanFont HanFonts[] = {
     {Chinese, "Noto Sans CJK SC", QFont::PreferOutline},
-    {ChineseTraditional, "Noto Sans CJK TC", QFont::ForceOutline},
-    {Japanese, "Noto Sans CJK JP", QFont::PreferOutline | QFont::ForceOutline},
-    {Korean, "Noto Sans CJK KR", QFont::PreferDevice},
+    {ChineseTraditional, "Noto Sans CJK TC", QFont::PreferDevice},
+    {Japanese, "Noto Sans CJK JP", QFont::PreferOutline | QFont::PreferDevice},
+    {Korean, "Noto Sans CJK KR", QFont::PreferDefault | QFont::PreferOutline},
 };
 
 } // namespace
