@@ -33,24 +33,26 @@ private:
 
 void TestFileDialogs::initTestCase()
 {
-    for (const char *name : {"CARD/MOVA0001.MP4", "CARD/z.avi", "CARD/a.txt"}) {
-        QVERIFY(QDir(mFolder.path()).mkpath("CARD"));
+    QVERIFY(QDir(mFolder.path()).mkpath("CARD"));
+    for (const char *name : {"CARD/MOVA0001.MP4", "CARD/z.avi", "CARD/a.txt"})
         QVERIFY(QFile(mFolder.filePath(name)).open(QFile::WriteOnly));
-    }
 }
 
 void TestFileDialogs::listsRecordings()
 {
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-    QTimer::singleShot(0, this, [] {
+    QFileDialog::FileMode mode = QFileDialog::AnyFile;
+    QTimer::singleShot(0, this, [&mode] {
         auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
         const auto *list = dialog->findChild<QListView *>("listView");
         QTRY_COMPARE(list->model()->rowCount(list->rootIndex()), 2);
+        mode = dialog->fileMode();
         QCOMPARE(dialog->windowTitle(), QStringLiteral("Open Files"));
         dialog->findChild<QLineEdit *>()->setText("\"z.avi\" \"MOVA0001.MP4\"");
         QMetaObject::invokeMethod(dialog, "accept");
     });
     const QList<QUrl> urls = askForRecordings(nullptr, "Open Files", mFolder.filePath("CARD"));
+    QCOMPARE(mode, QFileDialog::ExistingFiles);
     QCOMPARE(urls, QList<QUrl>({QUrl::fromLocalFile(mFolder.filePath("CARD/z.avi")),
                                 QUrl::fromLocalFile(mFolder.filePath("CARD/MOVA0001.MP4"))}));
 }
@@ -77,11 +79,17 @@ void TestFileDialogs::startsWhereThereIsAFolder()
         starts.append(dialog->directory().path());
         dialog->reject();
     };
-    QTimer::singleShot(0, this, noteAndLeave);
-    QCOMPARE(askForRecordings(nullptr, "Open Files", mFolder.path() + wanted), QList<QUrl>());
-    QTimer::singleShot(0, this, noteAndLeave);
-    QCOMPARE(askForFolder(nullptr, "Open Directory", mFolder.path() + wanted), QString());
-    QCOMPARE(starts, QStringList({mFolder.path() + start, mFolder.path() + start}));
+    // By themselves the dialogs start where the last one did.
+    for (const QString &folder : {mFolder.path(), mFolder.path() + wanted}) {
+        QTimer::singleShot(0, this, noteAndLeave);
+        QCOMPARE(askForRecordings(nullptr, "Open Files", folder), QList<QUrl>());
+    }
+    for (const QString &folder : {mFolder.path(), mFolder.path() + wanted}) {
+        QTimer::singleShot(0, this, noteAndLeave);
+        QCOMPARE(askForFolder(nullptr, "Open Directory", folder), QString());
+    }
+    QCOMPARE(starts, QStringList({mFolder.path(), mFolder.path() + start, mFolder.path(),
+                                  mFolder.path() + start}));
 }
 
 /** There the first file that is listed is selected, and Return opens it. */

@@ -62,6 +62,7 @@ void TestPlaylistTable::nothingIsCut()
         model.setItem(0, column, new QStandardItem(texts[column]));
     PlaylistTable table;
     table.resize(600, 150);
+    table.setFont(QFont("Calibri", 4));
     table.setPlaylist(&model);
     table.setFont(QFont("Calibri", points));
     table.show();
@@ -83,6 +84,7 @@ void TestPlaylistTable::nothingIsCut()
         const QModelIndex cell = model.index(0, column);
         const QSize hint = table.itemDelegate()->sizeHint(QStyleOptionViewItem(), cell);
         QCOMPARE(hint.width() <= table.columnWidth(column), column > 0);
+        QVERIFY(column != 2 || hint.width() > 110); // fitted to 140
         const QString toolTip = toolTipAt(table.viewport(), table.visualRect(cell).center());
         QCOMPARE(toolTip, column > 0 ? QString() : LongName);
     }
