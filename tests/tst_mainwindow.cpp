@@ -392,18 +392,18 @@ void tst_MainWindow::screenshotsAreTold()
     QTRY_COMPARE(child<ControlPanel>("wgt_ControlPanel")->state(), QMediaPlayer::PlayingState);
     const auto *label = child<QLabel>("lbl_FileName");
     QTest::mouseClick(child("btn_ScreenShot"), Qt::LeftButton);
-    QTRY_VERIFY(label->text().startsWith("Screenshot saved: "));
+    QTRY_VERIFY_WITH_TIMEOUT(label->text().startsWith("Screenshot saved: "), 20000);
     const QStringList images = shots.entryList(QDir::Files);
     QCOMPARE(images.size(), 1);
     QTextDocument toolTip;
     toolTip.setHtml(label->toolTip());
     QCOMPARE(toolTip.toPlainText(), "Screenshot saved: " + shots.filePath(images.first()));
-    QTRY_COMPARE(label->text(), QStringLiteral("ride.mp4"));
+    QTRY_COMPARE_WITH_TIMEOUT(label->text(), QStringLiteral("ride.mp4"), 20000);
     QCOMPARE(label->toolTip(), QString());
 
     Configuration::GetInstance()->setScreenshotSavePath(recording + "/below");
     QTest::mouseClick(child("btn_ScreenShot"), Qt::LeftButton);
-    QTRY_VERIFY(label->text().startsWith("No screenshot: "));
+    QTRY_VERIFY_WITH_TIMEOUT(label->text().startsWith("No screenshot: "), 20000);
     QVERIFY2(!label->toolTip().contains("saved"), "by the request before");
     Configuration::GetInstance()->setLanguage(EnglishUK);
     QCOMPARE(label->text(), QString());

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Quellfern
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "configuration.h"
+#include "languagefont.h"
 #include "setting.h"
 
 #include <QComboBox>
@@ -40,6 +41,7 @@ private slots:
     void cleanup();
     void showsAndKeepsStoredValues_data();
     void showsAndKeepsStoredValues();
+    void listsLanguagesInTheirFonts();
     void savesWhatWasChosenAtFirst();
     void savesInOrder();
     void tabOrder();
@@ -159,6 +161,16 @@ void TestSetting::showsAndKeepsStoredValues()
     QCOMPARE(child<QComboBox>("cBox_SpeedUnit")->currentText(), shown[3]);
     click("pBtn_OK");
     QCOMPARE(stored(), after.replace("HOME", QFile::encodeName(mHome->path())));
+}
+
+/** The list has each language in its own Han characters. */
+void TestSetting::listsLanguagesInTheirFonts()
+{
+    open();
+    const auto *box = child<QComboBox>("cBox_Language");
+    for (const Language_e language : {Chinese, Japanese, German})
+        QCOMPARE(box->itemData(language, Qt::FontRole).value<QFont>(),
+                 languageFont(mDialog->font(), language));
 }
 
 /** With windows that process events when the language changes, and an impatient user. */
