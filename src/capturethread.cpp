@@ -17,12 +17,31 @@ namespace {
 
 constexpr qint64 NoTask = -1;
 
+// For how long the tool may go on once the worker has been asked to end.
+constexpr int GraceMs = 3000;
+constexpr int TerminateMs = 500;
+constexpr int AskPeriodMs = 100;
+
 QObject *unattendedWorkers = nullptr; // the parent of workers without another owner
 
-void awaitUnattendedWorkers()
+/** Asks all of them before it awaits the first, so that they end at the same time. */
+void endUnattendedWorkers()
 {
+    for (QThread *worker : unattendedWorkers->findChildren<QThread *>())
+        worker->requestInterruption();
     delete unattendedWorkers;
     unattendedWorkers = nullptr;
+}
+
+/** The folder that a setting means: it is stored as it was typed. One that depends on the folder
+ *  in which the program was started, or none, is not what anybody wants. */
+QString imageFolder(QString setting)
+{
+    if (setting == QLatin1String("~") || setting.startsWith(QLatin1String("~/")))
+        setting.replace(0, 1, QDir::homePath());
+    return QDir::isAbsolutePath(setting)
+               ? setting
+               : Configuration::GetInstance()->defaultScreenshotSavePath();
 }
 
 bool ensureFolder(const QString &folder)
@@ -71,29 +90,52 @@ QString toolArguments(const QString &videoFile, qint64 positionMs, const QString
         .arg(timeOfDay(positionMs), quotable(videoFile), quotable(output));
 }
 
-/** Runs the tool to its end, however long that takes. It gets no input, because it would wait for
- *  an answer for ever; and what it tells, pages for each image, goes nowhere. */
-void runTool(const QString &program, const QString &arguments)
+/** Waits for the tool to end, however long that takes, unless the thread is asked to end. */
+void awaitTool(QProcess &tool)
+{
+    while (tool.state() != QProcess::NotRunning && !tool.waitForFinished(AskPeriodMs)) {
+        if (!QThread::currentThread()->isInterruptionRequested())
+            continue;
+        if (tool.waitForFinished(GraceMs))
+            return;
+        tool.terminate();
+        if (tool.waitForFinished(TerminateMs))
+            return;
+        tool.kill();
+    }
+}
+
+/** Returns false when there is no such tool. It gets no input, because it would wait for an answer
+ *  for ever; and what it tells, pages for each image, goes nowhere. */
+bool runTool(const QString &program, const QString &arguments, const QString &workingFolder)
 {
     QProcess tool;
     tool.setStandardInputFile(QProcess::nullDevice());
     tool.setStandardOutputFile(QProcess::nullDevice());
     tool.setStandardErrorFile(QProcess::nullDevice());
+    tool.setWorkingDirectory(workingFolder);
 #if QT_VERSION >= QT_VERSION_CHECK(5, 15, 0)
     // The program apart: the blanks in the name of its folder are not quoted.
     tool.start(program, QProcess::splitCommand(arguments));
 #else
     tool.start(program + arguments);
 #endif
-    tool.waitForFinished(-1);
+    if (!tool.waitForStarted(-1))
+        return false;
+    awaitTool(tool);
+    return true;
 }
 
 } // namespace
 
-CaptureThread::CaptureThread(QObject *parent) : QThread(parent) {}
+CaptureThread::CaptureThread(QObject *parent) : QThread(parent)
+{
+    qRegisterMetaType<ScreenshotResult>("ScreenshotResult");
+}
 
 CaptureThread::~CaptureThread()
 {
+    requestInterruption();
     wait();
 }
 
@@ -113,7 +155,7 @@ void CaptureThread::runUnattended()
 {
     if (!unattendedWorkers) {
         unattendedWorkers = new QObject;
-        qAddPostRoutine(awaitUnattendedWorkers);
+        qAddPostRoutine(endUnattendedWorkers);
     }
     setParent(unattendedWorkers);
     connect(this, &QThread::finished, this, &QObject::deleteLater);
@@ -123,26 +165,48 @@ void CaptureThread::runUnattended()
 
 void CaptureThread::run()
 {
-    const QString folder = Configuration::GetInstance()->screenshotSavePath();
+    const QString folder = imageFolder(Configuration::GetInstance()->screenshotSavePath());
     if (!ensureFolder(folder)) {
         qDebug() << "mkpath error, capture failed";
+        emit captured({ScreenshotResult::NoFolder, folder});
         return;
     }
-    const QString program = QCoreApplication::applicationDirPath() + QStringLiteral("/ffmpeg");
-    for (Task task = takeTask(); task.positionMs >= 0; task = takeTask()) {
-        const QString timeStamp = takeTimeStamp();
-        qDebug() << "start capture, timeStr" << timeStamp;
-        const QString output = outputFile(folder, task.videoFile, timeStamp);
-        const QString arguments = toolArguments(task.videoFile, task.positionMs, output);
-        qDebug().noquote() << "captureCmd:" << program + arguments;
-        runTool(program, arguments);
-    }
+    for (Task task = takeTask(); task.positionMs >= 0; task = takeTask())
+        capture(task, folder);
     qDebug() << "Capture task finished, exit thread";
     qDebug() << "end run";
+}
+
+void CaptureThread::capture(const Task &task, const QString &folder)
+{
+    const QString program = QCoreApplication::applicationDirPath() + QStringLiteral("/ffmpeg");
+    const QString timeStamp = takeTimeStamp();
+    qDebug() << "start capture, timeStr" << timeStamp;
+    const QString image = outputFile(folder, task.videoFile, timeStamp);
+    // The tool takes "%d" in the path of an image for its number. It writes one whose path has such
+    // a mark from within the folder, under a name without any.
+    const bool hasMarks = image.contains(QLatin1Char('%'));
+    const QString written =
+        hasMarks ? outputFile(QStringLiteral("."), QString(), timeStamp) : image;
+    const QString arguments = toolArguments(task.videoFile, task.positionMs, written);
+    qDebug().noquote() << "captureCmd:" << program + arguments;
+    const bool hasTool = runTool(program, arguments, hasMarks ? folder : QString());
+    if (hasMarks)
+        QFile::rename(QDir(folder).filePath(written), image);
+    if (isInterruptionRequested())
+        return;
+    if (!hasTool)
+        emit captured({ScreenshotResult::NoTool, program});
+    else if (QFileInfo(image).size() == 0)
+        emit captured({ScreenshotResult::NoImage, image});
+    else
+        emit captured({ScreenshotResult::Saved, image});
 }
 
 CaptureThread::Task CaptureThread::takeTask()
 {
     const QMutexLocker locker(&mMutex);
-    return {mVideoFile, mPositionsMs.isEmpty() ? NoTask : mPositionsMs.takeFirst()};
+    if (mPositionsMs.isEmpty() || isInterruptionRequested())
+        return {mVideoFile, NoTask};
+    return {mVideoFile, mPositionsMs.takeFirst()};
 }

@@ -7,14 +7,16 @@
 #include <QString>
 #include <QThread>
 
+#include "screenshotresult.h"
+
 /**
  * Makes still images of a recording: for each queued position it runs the ffmpeg beside the
- * executable, which decodes one picture and writes it as a JPEG into the screenshot folder.
- * Nothing is reported when that fails.
+ * executable, which decodes one picture and writes it as a JPEG into the screenshot folder of the
+ * settings. There "~" is the home folder; for one that is empty or relative the default serves.
  *
  * The object belongs to the GUI thread, on which it is made, given tasks and deleted; the tool is
- * started and awaited on the worker's own thread, so that the window never waits. Deleting it waits
- * until its tasks are done.
+ * started and awaited on the worker's own thread, so that the window never waits. Deleting it drops
+ * the tasks that wait, and ends the tool when it goes on for more than three seconds.
  */
 class CaptureThread : public QThread
 {
@@ -30,8 +32,13 @@ public:
     void addTask(const QString &file, qint64 position);
 
     /** Makes the worker its own owner, when the one that it had goes: it is deleted when it has
-     *  finished, and the end of the application waits for it. */
+     *  done its tasks, or at the end of the application. */
     void runUnattended();
+
+signals:
+    /** What has become of a task, or of all of them when there is no folder. Emitted on the
+     *  worker's thread; not any more once the worker is being deleted. */
+    void captured(const ScreenshotResult &result);
 
 protected:
     void run() override;
@@ -44,6 +51,7 @@ private:
     };
 
     Task takeTask();
+    void capture(const Task &task, const QString &folder);
 
     QMutex mMutex; // guards the two below, never while the tool runs
     QString mVideoFile;

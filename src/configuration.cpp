@@ -87,14 +87,12 @@ Configuration::Configuration()
     const QString path = directory + QStringLiteral("/configuration.ini");
     qDebug() << path;
     mSettings = new QSettings(path, QSettings::IniFormat, this);
+    mSettings->setIniCodec("UTF-8"); // as editors write; without it they would read Latin-1
 }
 
 QString Configuration::screenshotSavePath()
 {
-    const QString pictures = firstLocation(QStandardPaths::PicturesLocation, QDir::homePath());
-    const QString byDefault =
-        QStringLiteral("%1/%2").arg(pictures, QCoreApplication::applicationName());
-    return mSettings->value(ScreenshotSavePathKey, byDefault).toString();
+    return mSettings->value(ScreenshotSavePathKey, defaultScreenshotSavePath()).toString();
 }
 
 void Configuration::setScreenshotSavePath(const QString &path)
@@ -184,6 +182,12 @@ bool Configuration::getMainwindowsIsMaximize()
 void Configuration::setMainwindowsIsMaximize(bool maximized)
 {
     store(MainwindowsIsMaximizeKey, maximized);
+}
+
+QString Configuration::defaultScreenshotSavePath()
+{
+    const QString pictures = firstLocation(QStandardPaths::PicturesLocation, QDir::homePath());
+    return QStringLiteral("%1/%2").arg(pictures, QCoreApplication::applicationName());
 }
 
 QRect Configuration::defaultMainwindowsRect()

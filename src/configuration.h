@@ -42,7 +42,7 @@ enum Language_e : int
  *
  * Nothing is cached: every getter reads the settings object, every setter writes through to the
  * file before it returns, so that even a hard exit loses nothing. Values are not range-checked;
- * a missing or unreadable file gives the documented defaults.
+ * a missing or unreadable file gives the documented defaults. The file is UTF-8.
  *
  * Lives on the GUI thread and must first be used there, after the application and organisation
  * names are set (they decide the file's directory). Never released in normal operation.
@@ -57,8 +57,7 @@ public:
     /** Deletes the singleton; the next GetInstance() makes a new one. */
     static void ReleaseInstance();
 
-    /** Folder for screenshots; by default the application's own folder below the pictures folder.
-     *  Not created here. */
+    /** Folder for screenshots as it was set, even an empty or a relative one. Not created here. */
     QString screenshotSavePath();
     void setScreenshotSavePath(const QString &path);
 
@@ -93,6 +92,9 @@ public:
     /** Whether the main window was last maximised, by default false. */
     bool getMainwindowsIsMaximize();
     void setMainwindowsIsMaximize(bool maximized);
+
+    /** The folder for screenshots while none is set: the application's own below the pictures. */
+    static QString defaultScreenshotSavePath();
 
     /** The geometry of a main window that has none stored, or one that no screen shows. */
     static QRect defaultMainwindowsRect();

@@ -24,6 +24,8 @@ DirectionTray::DirectionTray(QWidget *parent)
 void DirectionTray::setDirection(int headingDeg)
 {
     direction = headingDeg;
+    // The picture says nothing to a screen reader.
+    setAccessibleDescription(QStringLiteral("%1\u00b0").arg(direction));
     update();
 }
 

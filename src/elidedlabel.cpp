@@ -3,18 +3,29 @@
 #include "elidedlabel.h"
 
 #include <QFontMetrics>
+#include <QTextDocument>
 
 ElidedLabel::ElidedLabel(QWidget *parent) : QLabel(parent)
 {
     setTextFormat(Qt::PlainText); // file names may look like markup
+    mNoticeTimer.setSingleShot(true);
+    connect(&mNoticeTimer, &QTimer::timeout, this, &ElidedLabel::endNotice);
 }
 
 void ElidedLabel::setFullText(const QString &text, const QFont &font)
 {
     setFont(font);
     mFullText = text;
-    elide();
+    endNotice();
     updateGeometry();
+}
+
+void ElidedLabel::showNotice(const QString &notice, const QString &details, int ms)
+{
+    mNotice = notice;
+    mNoticeDetails = details;
+    mNoticeTimer.start(ms);
+    elide();
 }
 
 QSize ElidedLabel::sizeHint() const
@@ -35,5 +46,21 @@ void ElidedLabel::resizeEvent(QResizeEvent *event)
 
 void ElidedLabel::elide()
 {
-    setText(fontMetrics().elidedText(mFullText, Qt::ElideMiddle, width()));
+    const QString &whole = mNotice.isEmpty() ? mFullText : mNotice;
+    const QString &details = mNotice.isEmpty() ? mFullText : mNoticeDetails;
+    setText(fontMetrics().elidedText(whole, Qt::ElideMiddle, width()));
+    const bool isWhole = text() == details;
+    setToolTip(isWhole ? QString() : plainToolTip(details));
+}
+
+void ElidedLabel::endNotice()
+{
+    mNoticeTimer.stop();
+    mNotice.clear();
+    elide();
+}
+
+QString plainToolTip(const QString &text)
+{
+    return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text;
 }

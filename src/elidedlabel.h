@@ -3,11 +3,12 @@
 #pragma once
 
 #include <QLabel>
+#include <QTimer>
 
 /**
  * A label that shows as much of its full text as fits, elided in the middle, and elides anew
- * whenever its width changes. Its size hint is that of the full text, so that what it shows never
- * feeds back into the layout.
+ * whenever its width changes; the tool tip has the whole of what is elided. Its size hint is that
+ * of the full text, so that what it shows never feeds back into the layout.
  */
 class ElidedLabel : public QLabel
 {
@@ -19,6 +20,9 @@ public:
     /** Sets font and text together; text() then is what is shown. */
     void setFullText(const QString &text, const QFont &font);
 
+    /** Shows a notice in place of the full text for @p ms milliseconds, or until a text is set. */
+    void showNotice(const QString &notice, const QString &details, int ms);
+
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
@@ -27,6 +31,13 @@ protected:
 
 private:
     void elide();
+    void endNotice();
 
     QString mFullText;
+    QString mNotice; // empty: there is none
+    QString mNoticeDetails;
+    QTimer mNoticeTimer;
 };
+
+/** The text for a tool tip, which would show the name of a file that looks like markup as such. */
+QString plainToolTip(const QString &text);

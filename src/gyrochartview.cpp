@@ -152,6 +152,7 @@ void GyroChartView::setupLook()
     legend->layout()->setContentsMargins(0, 0, 0, 0);
     setRenderHint(QPainter::Antialiasing);
     setFocusPolicy(Qt::NoFocus); // a scroll area would take the arrow keys from the window
+    viewport()->setFocusPolicy(Qt::NoFocus);
     chart()->layout()->setContentsMargins(0, 0, 0, 0);
     chart()->setMargins(QMargins());
     chart()->setBackgroundRoundness(0);

@@ -3,6 +3,7 @@
 #include "appname.h"
 #include "commandline.h"
 #include "configuration.h"
+#include "languagefont.h"
 #include "macnosleeper.h"
 #include "mainwindows.h"
 
@@ -31,6 +32,12 @@ void allowMapAsRoot()
 {
     if (geteuid() == 0)
         qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
+}
+
+void useLanguageFont()
+{
+    QApplication::setFont(
+        languageFont(QApplication::font(), Configuration::GetInstance()->language()));
 }
 
 int printInformation(int argc, char *argv[])
@@ -65,6 +72,8 @@ int main(int argc, char *argv[])
     QCoreApplication::setApplicationName(APP_NAME);
     QCoreApplication::setOrganizationName(QObject::tr("Quellfern"));
     QCoreApplication::setApplicationVersion(APP_VERSION);
+    QObject::connect(Configuration::GetInstance(), &Configuration::updateLanguage, &application,
+                     useLanguageFont);
     Configuration::GetInstance()->setLanguage(Configuration::GetInstance()->language());
 
     MainWindows window;

@@ -4,23 +4,26 @@
 
 #include "ui_mainwindows.h"
 
+#include "accessiblerole.h"
 #include "appname.h"
-#include "computeinfo.h"
 #include "configuration.h"
+#include "decodewarning.h"
+#include "filedialogs.h"
 #include "gyrosampling.h"
+#include "languagefont.h"
+#include "mapreload.h"
 #include "mediaurl.h"
 #include "movefilter.h"
 #include "pendingstart.h"
 #include "playlistmodel.h"
 #include "rowdata.h"
+#include "screenshotnotice.h"
 #include "setting.h"
 #include "telemetrydisplays.h"
 
 #include <QDebug>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QKeyEvent>
-#include <QMessageBox>
 #include <QTime>
 #include <QTimer>
 
@@ -34,7 +37,7 @@ QFont pixelFont(const QString &family, int pixelSize, QFont::Weight weight)
     QFont font(family);
     font.setPixelSize(pixelSize);
     font.setWeight(weight);
-    return font;
+    return languageFont(font, Configuration::GetInstance()->language());
 }
 
 } // namespace
@@ -49,6 +52,7 @@ void shell::sleep(unsigned int ms)
 MainWindows::MainWindows(QWidget *parent)
     : QDialog(parent), mUi(std::make_unique<Ui::MainWindows>())
 {
+    installAccessibleRoles();
     mUi->setupUi(this);
     setWindowTitle(APP_NAME);
     installMoving();
@@ -117,25 +121,8 @@ void MainWindows::clearAll()
 
 bool MainWindows::isSuportH264orH265(int row)
 {
-    constexpr int h264 = 1;
-    constexpr int h265 = 2;
-    constexpr int largestSoftwarePicture = 4000000; // pixels
-    const ComputeInfo *computer = ComputeInfo::GetInstance();
-    const int coding = mPlaylistModel->getVideoDecodeType(row);
-    const QSize size = mPlaylistModel->getVideoSize(row);
-    const bool hasHardware = computer->mCpuLevelH &&
-                             (coding == h265 ? computer->isHDDecodeH265 : computer->isHDDecodeH264);
-    if ((coding != h264 && coding != h265) || hasHardware ||
-        qint64(size.width()) * size.height() <= largestSoftwarePicture)
-        return true;
-    const QString message =
-        coding == h265
-            ? tr("This computer cannot play this video because it does not have the video "
-                 "playback support function required to play H.265 (HEVC).")
-            : tr("This computer cannot play this video because it does not have the video "
-                 "playback support function required to play H.264 (AVC).");
-    QMessageBox::warning(nullptr, tr("Error") + QLatin1Char(' ') + computer->hardwareInfo, message);
-    return false;
+    return warnUnlessDecodable(mPlaylistModel->getVideoDecodeType(row),
+                               mPlaylistModel->getVideoSize(row));
 }
 
 void MainWindows::onUpdateLanguage()
@@ -148,13 +135,13 @@ void MainWindows::onUpdateLanguage()
     setTitleFileName(QString()); // cleared by the form, until the next recording starts
     setWindowTitle(QCoreApplication::applicationName());
     showMaximizedState(); // the form knows one of the two tooltips only
-    mUi->wgt_MapView->setMapType(Configuration::GetInstance()->maps());
 }
 
 void MainWindows::openFile()
 {
     qDebug() << "open file--";
-    const QList<QUrl> urls = askForRecordings();
+    const QList<QUrl> urls =
+        askForRecordings(this, tr("Open Files"), Configuration::GetInstance()->videoFilePath());
     int firstRow = -1;
     int lastRow = -1;
     for (const QUrl &url : urls) {
@@ -437,6 +424,9 @@ void MainWindows::connectPlayArea()
     connect(area, &PlayAreaManager::ended, this, &MainWindows::onRecordingEnded,
             Qt::QueuedConnection);
     connect(area, &PlayAreaManager::failed, this, &MainWindows::onRecordingFailed);
+    const auto *notice = new ScreenshotNotice(mUi->lbl_FileName);
+    connect(panel, &ControlPanel::screenshot, notice, &ScreenshotNotice::begin);
+    connect(area, &PlayAreaManager::screenshotDone, notice, &ScreenshotNotice::tell);
 }
 
 void MainWindows::connectPlaylistAndSettings()
@@ -448,6 +438,7 @@ void MainWindows::connectPlaylistAndSettings()
             &MainWindows::onAllGpsDataParserFinished);
     connect(Configuration::GetInstance(), &Configuration::updateLanguage, this,
             &MainWindows::onUpdateLanguage);
+    new MapReload(mUi->wgt_MapView); // first: a page of another provider makes its own needless
     connect(Configuration::GetInstance(), &Configuration::mapsChanged, mUi->wgt_MapView,
             &MapWebView::setMapType);
 }
@@ -464,15 +455,7 @@ void MainWindows::showMaximizedState()
     const bool maximized = isMaximized();
     mUi->pBtn_Maximize->setChecked(maximized);
     mUi->pBtn_Maximize->setToolTip(maximized ? tr("Restore Down") : tr("Maximize"));
-}
-
-QList<QUrl> MainWindows::askForRecordings()
-{
-    QFileDialog dialog(this, tr("Open Files"), Configuration::GetInstance()->videoFilePath(),
-                       QStringLiteral("*.mov *.mp4 *.avi"));
-    dialog.setAcceptMode(QFileDialog::AcceptOpen);
-    dialog.setFileMode(QFileDialog::ExistingFiles);
-    return dialog.exec() == QDialog::Accepted ? dialog.selectedUrls() : QList<QUrl>();
+    mUi->pBtn_Maximize->setAccessibleName(mUi->pBtn_Maximize->toolTip());
 }
 
 bool MainWindows::controlPlayback(const QKeyEvent &event)

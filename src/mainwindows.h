@@ -98,7 +98,6 @@ private:
     void restoreGeometryFromSettings();
 
     void showMaximizedState();
-    QList<QUrl> askForRecordings();
     /** Handles the keys that control playback; returns whether it was one. */
     bool controlPlayback(const QKeyEvent &event);
     void onRecordingDue(const RowData *row);

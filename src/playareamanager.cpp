@@ -393,6 +393,7 @@ void PlayAreaManager::relayKeysAndFullScreen(PlayerWidget *player)
 {
     connect(player, &PlayerWidget::keyPressSignals, this, &PlayAreaManager::keyPressSignals);
     connect(player, &PlayerWidget::fullScreen, this, &PlayAreaManager::fullScreenChanged);
+    connect(player, &PlayerWidget::screenshotDone, this, &PlayAreaManager::screenshotDone);
 }
 
 void PlayAreaManager::addToLayout(PlayerWidget *player)

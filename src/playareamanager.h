@@ -14,6 +14,7 @@ class QHBoxLayout;
 class QKeyEvent;
 class QMimeData;
 struct RowData;
+struct ScreenshotResult;
 
 /**
  * The area that shows the video: one player for the main recording, and a second one beside it
@@ -73,6 +74,7 @@ signals:
     // Relayed from either player.
     void keyPressSignals(QKeyEvent *event);
     void fullScreenChanged(bool fullScreen);
+    void screenshotDone(const ScreenshotResult &result);
     /** One dropped recording, as URL text. */
     void dropFile(const QString &filePath);
     /** The main recording has been played to its end. */

@@ -57,6 +57,7 @@ void PlayerWidget::screenshot(qint64 postion, const QSize &resolution, bool isOr
     if (!mCaptureThread) {
         mCaptureThread = new CaptureThread;
         connect(mCaptureThread, &QThread::finished, this, &PlayerWidget::onCaptureThreadFinished);
+        connect(mCaptureThread, &CaptureThread::captured, this, &PlayerWidget::screenshotDone);
     }
     mCaptureThread->addTask(mediaUrl(mPlayer.media()).path(QUrl::FullyDecoded), postion);
     mCaptureThread->start();

@@ -10,6 +10,7 @@
 
 class CaptureThread;
 class QKeyEvent;
+struct ScreenshotResult;
 
 /**
  * One video player: a video widget with the media player that draws into it. Switches to full
@@ -42,6 +43,8 @@ signals:
     void keyPressSignals(QKeyEvent *event);
     /** Emitted before the widget enters or leaves full screen. */
     void fullScreen(bool isFull);
+    /** What has become of a screenshot; one for each while the widget is there. */
+    void screenshotDone(const ScreenshotResult &result);
 
 public slots:
     /** Has an image made of the recording at @p postion, in milliseconds, while it is playing or

@@ -2,8 +2,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "playlisttable.h"
 
+#include "elidedlabel.h"
+#include "fittedfont.h"
+
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QScrollBar>
+#include <QStyledItemDelegate>
+#include <QToolTip>
 
 #include <iterator>
 
@@ -12,6 +18,11 @@ namespace {
 constexpr int RowHeight = 38;
 // The last column takes the rest, but no less than this.
 constexpr int ColumnWidths[] = {200, 80, 140, 80, 80};
+constexpr int HeaderHeight = 24;
+constexpr int TextMargins = 6; // both together, of a cell or a section of the header
+
+// The widest texts of the columns that have no names in them.
+const char *const WidestTexts[] = {"", "00:00:00", "0000/00/00 00:00:00", "", "0000 x 0000"};
 
 const char TableStyle[] =
     "QTableView{color: rgb(170, 170, 170); background-color: rgb(44, 44, 52); border: none;"
@@ -24,18 +35,54 @@ const char HeaderStyle[] =
     "QHeaderView::section{height: 24px; color: white; background-color: rgb(20, 20, 20);"
     " border: none;}";
 
-// %1 the orientation, %2 the dimension across the bar.
+// %1 the orientation, %2 the dimension across the bar, %3 that along it. A radius of more than half
+// the breadth is ignored, so the handle is as broad as its round ends, one pixel beyond the bar on
+// either side (%4).
 const char ScrollBarStyle[] =
     "QScrollBar:%1{%2: 8px; background: rgb(40, 40, 48); margin: 0px; border: none;}"
-    "QScrollBar::handle:%1{background: rgb(60, 60, 68); border-radius: 5px; min-%3: 24px;}"
+    "QScrollBar::handle:%1{background: rgb(60, 60, 68); border-radius: 5px; margin: %4;"
+    " min-%3: 24px;}"
     "QScrollBar::handle:%1:hover{background: rgb(170, 170, 170);}"
     "QScrollBar::add-line:%1, QScrollBar::sub-line:%1{width: 0px; height: 0px;}"
     "QScrollBar::add-page:%1, QScrollBar::sub-page:%1{background: none;}";
 
+/** Tells the text when it is wider than its place. */
+void tellElided(const QHelpEvent &event, const QString &text, const QFont &font, int width)
+{
+    const bool isElided = QFontMetrics(font).horizontalAdvance(text) > width;
+    QToolTip::showText(event.globalPos(), isElided ? plainToolTip(text) : QString());
+}
+
 } // namespace
 
-PlaylistTable::PlaylistTable(QWidget *parent) : QTableView(parent)
+class PlaylistTable::Cells : public QStyledItemDelegate
 {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    bool helpEvent(QHelpEvent *event, QAbstractItemView *view, const QStyleOptionViewItem &option,
+                   const QModelIndex &index) override
+    {
+        if (event->type() != QEvent::ToolTip)
+            return QStyledItemDelegate::helpEvent(event, view, option, index);
+        tellElided(*event, index.data().toString(), font, option.rect.width() - TextMargins);
+        return true;
+    }
+
+    QFont font;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        option->font = font;
+        option->fontMetrics = QFontMetrics(font);
+    }
+};
+
+PlaylistTable::PlaylistTable(QWidget *parent) : QTableView(parent), mCells(new Cells(this))
+{
+    setItemDelegate(mCells);
     setupRows();
     setupHeaders();
     setupColours();
@@ -46,6 +93,27 @@ void PlaylistTable::setPlaylist(QAbstractItemModel *playlist)
     setModel(playlist);
     for (int column = 0; column < int(std::size(ColumnWidths)); ++column)
         setColumnWidth(column, ColumnWidths[column]);
+    connect(playlist, &QAbstractItemModel::headerDataChanged, this, &PlaylistTable::fitHeaderFont);
+    fitFonts();
+}
+
+void PlaylistTable::changeEvent(QEvent *event)
+{
+    QTableView::changeEvent(event);
+    if (event->type() == QEvent::FontChange && model())
+        fitFonts();
+}
+
+bool PlaylistTable::eventFilter(QObject *object, QEvent *event)
+{
+    const QHeaderView *header = horizontalHeader();
+    if (object != header->viewport() || event->type() != QEvent::ToolTip)
+        return QTableView::eventFilter(object, event);
+    const auto *help = static_cast<QHelpEvent *>(event);
+    const int column = header->logicalIndexAt(help->pos());
+    tellElided(*help, headerText(column), header->font(),
+               header->sectionSize(column) - TextMargins);
+    return true;
 }
 
 void PlaylistTable::setupRows()
@@ -56,6 +124,8 @@ void PlaylistTable::setupRows()
     setFocusPolicy(Qt::NoFocus);
     setSelectionBehavior(QAbstractItemView::SelectRows);
     setSelectionMode(QAbstractItemView::SingleSelection);
+    setWordWrap(false);
+    setTextElideMode(Qt::ElideMiddle);
 }
 
 void PlaylistTable::setupHeaders()
@@ -64,6 +134,8 @@ void PlaylistTable::setupHeaders()
     verticalHeader()->setDefaultSectionSize(RowHeight);
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setStretchLastSection(true);
+    horizontalHeader()->setTextElideMode(Qt::ElideMiddle);
+    horizontalHeader()->viewport()->installEventFilter(this);
     // The style's minimum, the font's widest glyph, would not let the last section fit.
     horizontalHeader()->setMinimumSectionSize(RowHeight);
 }
@@ -73,8 +145,35 @@ void PlaylistTable::setupColours()
     setStyleSheet(QLatin1String(TableStyle));
     horizontalHeader()->setStyleSheet(QLatin1String(HeaderStyle));
     const QString scrollBarStyle = QLatin1String(ScrollBarStyle);
-    verticalScrollBar()->setStyleSheet(scrollBarStyle.arg(
-        QStringLiteral("vertical"), QStringLiteral("width"), QStringLiteral("height")));
-    horizontalScrollBar()->setStyleSheet(scrollBarStyle.arg(
-        QStringLiteral("horizontal"), QStringLiteral("height"), QStringLiteral("width")));
+    verticalScrollBar()->setStyleSheet(
+        scrollBarStyle.arg(QStringLiteral("vertical"), QStringLiteral("width"),
+                           QStringLiteral("height"), QStringLiteral("0px -1px")));
+    horizontalScrollBar()->setStyleSheet(
+        scrollBarStyle.arg(QStringLiteral("horizontal"), QStringLiteral("height"),
+                           QStringLiteral("width"), QStringLiteral("-1px 0px")));
+}
+
+void PlaylistTable::fitFonts()
+{
+    QFont fitted = font();
+    for (int column = 0; column < int(std::size(ColumnWidths)); ++column)
+        fitted = fittedFont(fitted, QLatin1String(WidestTexts[column]),
+                            {ColumnWidths[column] - TextMargins, RowHeight});
+    mCells->font = fitted;
+    fitHeaderFont();
+}
+
+void PlaylistTable::fitHeaderFont()
+{
+    QFont fitted = mCells->font; // no larger than theirs: the header is lower than the rows
+    for (int column = 0; column < int(std::size(ColumnWidths)); ++column)
+        fitted = fittedFont(fitted, headerText(column),
+                            {ColumnWidths[column] - TextMargins, HeaderHeight});
+    horizontalHeader()->setFont(fitted);
+    horizontalHeader()->viewport()->setFont(fitted); // which style sheets keep from inheriting it
+}
+
+QString PlaylistTable::headerText(int column) const
+{
+    return model()->headerData(column, Qt::Horizontal).toString();
 }

@@ -5,10 +5,11 @@
 #include "ui_setting.h"
 
 #include "configuration.h"
+#include "filedialogs.h"
+#include "languagefont.h"
 #include "movefilter.h"
 
 #include <QDir>
-#include <QFileDialog>
 #include <QGuiApplication>
 #include <QScreen>
 #include <QShowEvent>
@@ -67,6 +68,7 @@ Setting::Setting(QWidget *parent) : QDialog(parent), mUi(std::make_unique<Ui::Se
     styleControls();
     installMoving();
     showStoredValues();
+    showFonts();
 }
 
 Setting::~Setting() = default;
@@ -94,9 +96,7 @@ void Setting::on_pBtn_Choose_clicked()
 {
     const QString start = QStandardPaths::standardLocations(QStandardPaths::PicturesLocation)
                               .value(0, QDir::homePath());
-    const QString folder = QFileDialog::getExistingDirectory(this, tr("Open Directory"), start,
-                                                             QFileDialog::ShowDirsOnly |
-                                                                 QFileDialog::DontResolveSymlinks);
+    const QString folder = askForFolder(this, tr("Open Directory"), start);
     if (!folder.isEmpty())
         mUi->lEdit_SavePath->setText(folder);
 }
@@ -111,10 +111,12 @@ void Setting::on_pBtn_OK_clicked()
     const int maps = chosenIndex(*mUi->cBox_Maps, configuration->maps());
     const int speedUnit = chosenIndex(*mUi->cBox_SpeedUnit, configuration->speedUnit());
     setEnabled(false);
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor); // another map is waited for
     configuration->setLanguage(Language_e(language));
     configuration->setScreenshotSavePath(folder);
     configuration->setMaps(MapTypes(maps));
     configuration->setSpeedUnit(speedUnit);
+    QGuiApplication::restoreOverrideCursor();
     accept();
     setEnabled(true);
 }
@@ -165,6 +167,16 @@ void Setting::retranslate()
     const int maps = mUi->cBox_Maps->currentIndex();
     mUi->retranslateUi(this);
     mUi->cBox_Maps->setCurrentIndex(maps);
+    showFonts();
+}
+
+/** The title in the interface's language, and in the list each language in its own. */
+void Setting::showFonts()
+{
+    mUi->lbl_Title->setFont(
+        languageFont(mUi->lbl_Title->font(), Configuration::GetInstance()->language()));
+    for (int i = 0; i < mUi->cBox_Language->count(); ++i)
+        mUi->cBox_Language->setItemData(i, languageFont(font(), Language_e(i)), Qt::FontRole);
 }
 
 void Setting::placeOverParent()

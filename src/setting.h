@@ -37,6 +37,7 @@ private:
     void installMoving();
     void showStoredValues();
     void retranslate();
+    void showFonts();
     void placeOverParent();
     void confirmPlace();
 

@@ -2,9 +2,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "speedtray.h"
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <QPainter>
+#include <QVariant>
 
 #include "configuration.h"
+#include "fittedfont.h"
 #include "gaugeface.h"
 
 namespace {
@@ -25,6 +29,9 @@ constexpr double TextTop = 0.76; // as a part of the dial's side
 constexpr int LargeTextSide = 201;
 constexpr int SmallTextPoints = 10;
 constexpr int LargeTextPoints = 14;
+// Between the first and the last number of the dial, as parts of its side.
+constexpr double TextRoomWidth = 0.42;
+constexpr double TextRoomHeight = 0.125;
 
 const QColor NeedleShadow(78, 18, 18);
 const QColor NeedleLight(Qt::darkRed);
@@ -39,7 +46,9 @@ bool isMetric()
 SpeedTray::SpeedTray(QWidget *parent)
     : QWidget(parent), pixmap(QStringLiteral(":/image/speed.png")), angle(angleOnDial(0))
 {
-    update();
+    setProperty("accessibleRole",
+                QStringLiteral("Graphic")); // here: what is said about it is made with it
+    showSpeed();
 }
 
 void SpeedTray::setSpeed(int kmh)
@@ -49,17 +58,27 @@ void SpeedTray::setSpeed(int kmh)
     mSpeedKmh = kmh;
     speed = isMetric() ? kmh : int(kmh / KmPerMile);
     angle = angleOnDial(speed);
-    update();
+    showSpeed();
 }
 
 QString SpeedTray::speedText() const
 {
-    return (isMetric() ? QStringLiteral("%1 km/h") : QStringLiteral("%1 MPH")).arg(speed);
+    // In the words of the control bar, which shows the same speed.
+    const QString text = isMetric() ? QCoreApplication::translate("ControlPanel", "%1 km/h")
+                                    : QCoreApplication::translate("ControlPanel", "%1 MPH");
+    return text.arg(speed);
 }
 
 int SpeedTray::angleOnDial(int number)
 {
     return number * SweepDeg / MaxSpeed + StartAngleDeg;
+}
+
+void SpeedTray::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        showSpeed();
 }
 
 void SpeedTray::paintEvent(QPaintEvent *)
@@ -69,6 +88,12 @@ void SpeedTray::paintEvent(QPaintEvent *)
     drawGaugeFace(painter, gaugeSquare(size()), pixmap);
     drawSpeedText(painter);
     drawNeedle(painter);
+}
+
+void SpeedTray::showSpeed()
+{
+    setAccessibleDescription(speedText()); // the picture says nothing to a screen reader
+    update();
 }
 
 QRectF SpeedTray::textRect() const
@@ -82,9 +107,12 @@ QRectF SpeedTray::textRect() const
 
 void SpeedTray::drawSpeedText(QPainter &painter) const
 {
-    const bool isLarge = gaugeSquare(size()).width() >= LargeTextSide;
+    const int side = gaugeSquare(size()).width();
+    const int points = side >= LargeTextSide ? LargeTextPoints : SmallTextPoints;
+    const QSize room(int(side * TextRoomWidth), int(side * TextRoomHeight));
     painter.setPen(QPen(TextColor, 3.0, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
-    painter.setFont(QFont(QStringLiteral("Calibri"), isLarge ? LargeTextPoints : SmallTextPoints));
+    // The dial does not grow with the text of the screen.
+    painter.setFont(fittedFont(QFont(QStringLiteral("Calibri"), points), speedText(), room));
     // The rectangle is lower than a line of the font, and at many sizes narrower than the text.
     painter.drawText(textRect(), Qt::AlignHCenter | Qt::AlignVCenter | Qt::TextDontClip,
                      speedText());

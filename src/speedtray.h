@@ -31,7 +31,7 @@ public:
     int shownSpeed() const { return speed; }
     /** Where the needle points, in degrees clockwise from straight up. */
     int needleAngleDeg() const { return angle; }
-    /** The speed as it is written, with the unit configured now. */
+    /** The speed as it is written, with the unit configured now, in the interface language. */
     QString speedText() const;
 
     /** The needle's direction for a number on the dial, in whole degrees clockwise from straight
@@ -39,9 +39,11 @@ public:
     static int angleOnDial(int number);
 
 protected:
+    void changeEvent(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    void showSpeed();
     QRectF textRect() const;
     void drawSpeedText(QPainter &painter) const;
     void drawNeedle(QPainter &painter) const;

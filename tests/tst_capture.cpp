@@ -30,6 +30,16 @@ constexpr int BlueTint = 200;
 const QByteArray DemandingTool = "#!/bin/sh\nfor last; do :; done\ncat\nhead -c 300000 /dev/zero\n"
                                  "head -c 300000 /dev/zero >&2\n: > \"$last\"\n";
 
+// Notes its process and goes on for ever, whatever it is asked.
+const QByteArray HangingTool = "#!/bin/sh\nfor last; do :; done\necho $$ > \"$last\"\n"
+                               "trap '' TERM\nwhile :; do sleep 1; done\n";
+
+// Done soon, but not at once.
+const QByteArray SlowTool = "#!/bin/sh\nfor last; do :; done\nsleep 0.5\necho 0 > \"$last\"\n";
+
+/** With this argument the test is a program that ends while it makes two images. */
+const char EndWhileCapturing[] = "--end-while-capturing";
+
 QMutex logMutex;
 QStringList logLines;
 QtMessageHandler handlerBefore = nullptr;
@@ -154,12 +164,17 @@ private slots:
     void nameOfTheImage();
     void imagesInOrder();
     void otherFileDropsWaitingTasks();
+    void folders_data();
+    void folders();
     void tasksWaitForAFolder();
+    void reportsFailures();
     void toolCannotBlock();
     void timeStampsDiffer();
 
     void imagesOfThePlayer();
     void widgetGoesWhileCapturing();
+    void programEndsWhileCapturing_data();
+    void programEndsWhileCapturing();
     void bothCameras();
 
     void framesOfASurface_data();
@@ -232,6 +247,8 @@ void tst_Capture::nameOfTheImage_data()
     QTest::newRow("quotes") << QStringLiteral("\"say \"\"hi\"\" \" \"\"\"");
     QTest::newRow("non-ASCII") << QStringLiteral("Straße 車");
     QTest::newRow("marks") << QStringLiteral("-i $HOME;`x`\\' 100% %1 %2%4");
+    QTest::newRow("numbering") << QStringLiteral("100%d 5%03d");
+    QTest::newRow("numbering once") << QStringLiteral("clip%%%04d");
 }
 
 void tst_Capture::nameOfTheImage()
@@ -276,19 +293,73 @@ void tst_Capture::otherFileDropsWaitingTasks()
     QCOMPARE(imagesIn(mShots), QStringList("rear 2"));
 }
 
+void tst_Capture::folders_data()
+{
+    QTest::addColumn<QString>("setting");
+    QTest::addColumn<QString>("folder"); // in the home folder
+    const QString byDefault = "Pictures/" + QCoreApplication::applicationName();
+    QTest::newRow("none") << "" << byDefault;
+    QTest::newRow("relative") << "shots" << byDefault;
+    QTest::newRow("another user's") << "~root/shots" << byDefault;
+    QTest::newRow("home") << "~"
+                          << "";
+    QTest::newRow("in the home") << "~/my shots/~"
+                                 << "my shots/~";
+}
+
+void tst_Capture::folders()
+{
+    QFETCH(QString, setting);
+    QFETCH(QString, folder);
+    const QTemporaryDir home;
+    const QByteArray homeBefore = qgetenv("HOME");
+    qputenv("HOME", QFile::encodeName(home.path()));
+    Configuration::GetInstance()->setScreenshotSavePath(setting);
+    const bool isDone = capture(mFront, {2500});
+    qputenv("HOME", homeBefore);
+    QVERIFY(isDone);
+    QCOMPARE(imagesIn(home.filePath(folder)), QStringList("front 2"));
+    QCOMPARE(Configuration::GetInstance()->screenshotSavePath(), setting);
+    QVERIFY(!QFileInfo::exists(setting)); // where the test stands
+}
+
 void tst_Capture::tasksWaitForAFolder()
 {
     CaptureThread worker;
     worker.addTask(mFront, 2500);
-    for (const QString &folder : {QString(), mFront + QStringLiteral("/below a file")}) {
-        Configuration::GetInstance()->setScreenshotSavePath(folder);
-        QVERIFY(runToItsEnd(worker));
-    }
-    QCOMPARE(linesWith("mkpath error, capture failed").size(), 2);
+    Configuration::GetInstance()->setScreenshotSavePath(mFront + QStringLiteral("/below a file"));
+    QVERIFY(runToItsEnd(worker));
+    QCOMPARE(linesWith("mkpath error, capture failed").size(), 1);
     QCOMPARE(linesWith("start capture").size(), 0);
     Configuration::GetInstance()->setScreenshotSavePath(mShots);
     QVERIFY(runToItsEnd(worker));
     QCOMPARE(imagesIn(mShots), QStringList("front 2"));
+}
+
+void tst_Capture::reportsFailures()
+{
+    CaptureThread worker;
+    QVector<ScreenshotResult> results;
+    connect(&worker, &CaptureThread::captured, &worker,
+            [&](const ScreenshotResult &result) { results.append(result); });
+    const auto captureOnce = [&](qint64 positionMs) {
+        worker.addTask(mFront, positionMs);
+        return runToItsEnd(worker);
+    };
+    QVERIFY(captureOnce(2500) && captureOnce(20000)); // the recording has ten seconds
+    QFile::remove(toolPath());
+    QVERIFY(captureOnce(2500));
+    Configuration::GetInstance()->setScreenshotSavePath(mFront + QStringLiteral("/below"));
+    QVERIFY(captureOnce(2500));
+    QTRY_COMPARE(results.size(), 4);
+    QCOMPARE(results[0].outcome, ScreenshotResult::Saved);
+    QCOMPARE(shown(results[0].path), QStringLiteral("front 2"));
+    QCOMPARE(results[1].outcome, ScreenshotResult::NoImage);
+    QCOMPARE(QFileInfo(results[1].path).path(), mShots);
+    QCOMPARE(results[2].outcome, ScreenshotResult::NoTool);
+    QCOMPARE(results[2].path, toolPath());
+    QCOMPARE(results[3].outcome, ScreenshotResult::NoFolder);
+    QCOMPARE(results[3].path, mFront + QStringLiteral("/below"));
 }
 
 void tst_Capture::toolCannotBlock()
@@ -345,6 +416,32 @@ void tst_Capture::widgetGoesWhileCapturing()
     QVERIFY(linesWith("end run").isEmpty()); // nobody has waited
     QTRY_COMPARE(linesWith("end run").size(), 1);
     QCOMPARE(imagesIn(mShots), QStringList({"front 1", "front 2"}));
+}
+
+void tst_Capture::programEndsWhileCapturing_data()
+{
+    QTest::addColumn<QByteArray>("tool");
+    QTest::addColumn<bool>("isEnded");
+    QTest::newRow("hanging") << HangingTool << true;
+    QTest::newRow("slow") << SlowTool << false;
+}
+
+void tst_Capture::programEndsWhileCapturing()
+{
+    QFETCH(QByteArray, tool);
+    QFETCH(bool, isEnded);
+    QVERIFY(writeTool(tool));
+    QProcess program;
+    program.start(QCoreApplication::applicationFilePath(), {EndWhileCapturing, mFront});
+    QVERIFY(program.waitForFinished(60000));
+    QCOMPARE(program.exitCode(), 0);
+    const QFileInfoList images = QDir(mShots).entryInfoList(QDir::Files);
+    QCOMPARE(images.size(), 1); // of two
+    QFile image(images.first().filePath());
+    QVERIFY(image.open(QFile::ReadOnly));
+    const QByteArray process = image.readAll().trimmed();
+    QCOMPARE(process == "0", !isEnded);
+    QVERIFY(!QFileInfo::exists("/proc/" + process));
 }
 
 void tst_Capture::bothCameras()
@@ -407,5 +504,26 @@ void tst_Capture::framesOfASurface()
     QCOMPARE(QFile::exists(fileName), !written.isEmpty());
 }
 
-QTEST_MAIN(tst_Capture)
+/** As a program whose window is closed at once. */
+int endWhileCapturing(int argc, char *argv[])
+{
+    const QCoreApplication application(argc, argv);
+    handlerBefore = qInstallMessageHandler(keepLine);
+    auto *worker = new CaptureThread;
+    worker->addTask(QString::fromLocal8Bit(argv[2]), 1500);
+    worker->addTask(QString::fromLocal8Bit(argv[2]), 2500);
+    worker->runUnattended();
+    worker->start();
+    return QTest::qWaitFor([] { return !linesWith("captureCmd").isEmpty(); }) ? 0 : 1;
+}
+
+int main(int argc, char *argv[])
+{
+    if (argc == 3 && qstrcmp(argv[1], EndWhileCapturing) == 0)
+        return endWhileCapturing(argc, argv);
+    const QApplication application(argc, argv);
+    tst_Capture test;
+    return QTest::qExec(&test, argc, argv);
+}
+
 #include "tst_capture.moc"

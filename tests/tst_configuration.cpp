@@ -34,6 +34,7 @@ private slots:
     void cleanup() { Configuration::ReleaseInstance(); }
     void defaultValues();
     void settingsReachTheFile();
+    void namesInAnyLanguage();
     void announcements();
     void firstLanguage_data();
     void firstLanguage();
@@ -113,6 +114,22 @@ void TestConfiguration::settingsReachTheFile()
     QCOMPARE(settings(), expected);
 }
 
+/** As an editor writes them, and as Qt does in a file without an encoding of its own. */
+void TestConfiguration::namesInAnyLanguage()
+{
+    const QString name = QStringLiteral("/Straße 車/Łódź");
+    for (const QByteArray &written : {QByteArray("/Straße 車/Łódź"),
+                                      QByteArray("/Stra\\xdf\\x65 \\x8eca/\\x141\\xf3\\x64\\x17a"),
+                                      QByteArray("\"/Straße 車/Łódź\"")}) {
+        writeFile("[General]\nvideoFilePath=" + written + "\n");
+        QCOMPARE(Configuration::GetInstance()->videoFilePath(), name);
+    }
+    Configuration::GetInstance()->setScreenshotSavePath(name);
+    Configuration::ReleaseInstance();
+    QCOMPARE(Configuration::GetInstance()->screenshotSavePath(), name);
+    QVERIFY(fileText().contains("ScreenshotSavePath=" + name.toUtf8()));
+}
+
 void TestConfiguration::announcements()
 {
     Configuration *configuration = Configuration::GetInstance();
@@ -131,7 +148,9 @@ void TestConfiguration::announcements()
         configuration->setLanguage(language);
     QCOMPARE(maps, (QList<QPair<int, int>>{{1, 1}, {0, 0}, {2, 2}}));
     QCOMPARE(languages, QList<int>({2, 2, 3}));
-    configuration->setLanguage(French); // whose translation is not part of this program
+    // The translation of the first is not part of this program.
+    for (const int unknown : {int(French), -1})
+        configuration->setLanguage(Language_e(unknown));
     QCOMPARE(languages.size(), 3);
     QCOMPARE(configuration->language(), EnglishUK);
 }

@@ -120,6 +120,14 @@ void TestControlPanel::volume()
         QCOMPARE(Numbers({expected[0], position, mPanel->volume()}), expected);
         QCOMPARE(requests(), QStringLiteral("changeVolume %1").arg(expected[2]));
     }
+    QSlider *handle = slider("hSlider_Volume");
+    handle->setSliderDown(true); // the player's answer must not pull it away
+    handle->setSliderPosition(50);
+    mPanel->setVolume(10);
+    QCOMPARE(handle->sliderPosition(), 50);
+    handle->setSliderDown(false);
+    mPanel->setVolume(75);
+    QCOMPARE(handle->value(), 97);
 }
 
 QString TestControlPanel::timeText(int durationS, int positionS)
@@ -187,6 +195,15 @@ void TestControlPanel::dragging()
     QTest::mouseRelease(seek, Qt::LeftButton, {}, centre);
     QCOMPARE(requests(), QString());
     QVERIFY(!seek->isSliderDown());
+    mPanel->setState(QMediaPlayer::PlayingState);
+    mPanel->setCurrentPosition(20);
+    for (const int delta : {120, -120}) {
+        QWheelEvent wheel(centre, seek->mapToGlobal(centre), {}, {0, delta}, Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(seek, &wheel);
+    }
+    QCOMPARE(requests(), QString("sliderMoved 21, sliderMoved 19"));
+    QCOMPARE(seek->value(), 20); // until the player is there
 }
 
 void TestControlPanel::readOuts()

@@ -95,6 +95,30 @@ double markDeg(const QImage &image, double aroundDeg)
     return weightedSum / sum;
 }
 
+/** A unit that is longer than any. */
+class LongUnit : public QTranslator
+{
+public:
+    bool isEmpty() const override { return false; }
+    QString translate(const char *, const char *text, const char *, int) const override
+    {
+        return QLatin1String(text) == QLatin1String("%1 km/h") ? "%1 kilometri/h" : QString();
+    }
+};
+
+/** Where the written speed stands. */
+QRect textRect(const QImage &image)
+{
+    QRect rect;
+    for (int i = image.width() * image.height() / 2; i < image.width() * image.height(); ++i) {
+        const QPoint place(i % image.width(), i / image.width());
+        const QRgb color = image.pixel(place);
+        if (qRed(color) > 150 && qGreen(color) < 100)
+            rect |= QRect(place, QSize(1, 1));
+    }
+    return rect;
+}
+
 } // namespace
 
 class TestGauges : public QObject
@@ -107,6 +131,7 @@ private slots:
     void speeds_data();
     void speeds();
     void speedNeedle();
+    void speedTextStaysBetweenTheNumbers();
     void headings();
     void longGauges();
 };
@@ -177,6 +202,23 @@ void TestGauges::speedNeedle()
         QVERIFY(isColor(colorAt(image, hubEdge - QPointF(0, 1)), DarkRed));
         QVERIFY(!isNeedle(colorAt(image, hubEdge + QPointF(0, 1))));
     }
+}
+
+void TestGauges::speedTextStaysBetweenTheNumbers()
+{
+    SpeedTray gauge;
+    gauge.setSpeed(110);
+    const QRect byDefault = textRect(picture(&gauge, {150, 150}));
+    QVERIFY2(byDefault.width() > 45 && byDefault.height() >= 9, "10 points are 13 pixels here");
+    LongUnit unit;
+    QCoreApplication::installTranslator(&unit);
+    QCOMPARE(gauge.speedText(), QStringLiteral("110 kilometri/h"));
+    for (const int side : {150, 200, 201}) {
+        const QRect rect = textRect(picture(&gauge, {side, side}));
+        QVERIFY(rect.width() > side * 0.3);
+        QVERIFY(rect.left() > side * 0.27 && rect.right() < side * 0.73);
+    }
+    QCoreApplication::removeTranslator(&unit);
 }
 
 void TestGauges::headings()

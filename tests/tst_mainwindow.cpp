@@ -2,23 +2,35 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "computeinfo.h"
 #include "configuration.h"
+#include "controlpanel.h"
+#include "elidedlabel.h"
 #include "mainwindows.h"
+#include "mediafile.h"
+#include "playareamanager.h"
 #include "playlistmodel.h"
 #include "recordingwriter.h"
+#include "screenshotnotice.h"
 #include "speedtray.h"
 
 #include <QApplication>
 #include <QComboBox>
+#include <QFileDialog>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QProcess>
 #include <QPushButton>
 #include <QSettings>
+#include <QSlider>
 #include <QStandardPaths>
 #include <QTableView>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTestEventLoop>
+#include <QTextDocument>
 #include <QTimer>
+#include <QWebEnginePage>
+#include <QWebEngineView>
 
 #include <memory>
 
@@ -57,7 +69,14 @@ private slots:
     void titlesAreElided();
     void changingTheLanguage();
     void allLanguagesAndBack();
+    void savingSettingsReloadsTheMap_data();
+    void savingSettingsReloadsTheMap();
     void changingTheSpeedUnit();
+    void showsTheVolume();
+    void openingAFolderChangesNothing();
+    void screenshotsAreTold();
+    void noticesOfScreenshots_data();
+    void noticesOfScreenshots();
     void warnsOfLargeRecordings_data();
     void warnsOfLargeRecordings();
 
@@ -159,6 +178,7 @@ void tst_MainWindow::maximizes()
     QTRY_COMPARE(mWindow->geometry(), QRect(0, 0, 1600, 1000));
     QVERIFY(button->isChecked());
     QCOMPARE(button->toolTip(), QStringLiteral("Restore Down"));
+    QCOMPARE(button->accessibleName(), button->toolTip());
     toggle();
     QTRY_COMPARE(mWindow->geometry(), DefaultRect);
     QVERIFY(!button->isChecked());
@@ -208,6 +228,7 @@ void tst_MainWindow::titlesAreElided()
     mWindow->setTitleFileName(name);
     QVERIFY(label->text().startsWith(QLatin1Char('A')) && label->text().endsWith(QLatin1Char('Z')));
     QVERIFY(label->text().contains(QChar(0x2026)));
+    QCOMPARE(label->toolTip(), name);
     QTRY_COMPARE(mWindow->geometry(), DefaultRect); // a long name does not widen the window
     QCOMPARE(child<QLabel>("lbl_Title")->text(), Title);
 
@@ -253,11 +274,71 @@ void tst_MainWindow::allLanguagesAndBack()
     QCOMPARE(texts(), english);
 }
 
+void tst_MainWindow::savingSettingsReloadsTheMap_data()
+{
+    QTest::addColumn<int>("language");
+    QTest::addColumn<int>("maps");
+    QTest::addColumn<int>("loads"); // of pages, as the map view logs them
+    QTest::addColumn<QString>("page");
+    QTest::newRow("nothing") << int(EnglishUS) << int(MapBaidu) << 0 << "BaiduMapIndex.html en-US";
+    QTest::newRow("language") << int(German) << int(MapBaidu) << 1 << "BaiduMapIndex.html de";
+    QTest::newRow("map") << int(EnglishUS) << int(MapGoogle) << 1
+                         << "WG_GoogleMapIndex_en_talvor.html en";
+    QTest::newRow("both") << int(French) << int(MapGoogle) << 1 << "WG_GoogleMapIndex_fr.html fr";
+    QTest::newRow("another country's")
+        << int(EnglishUK) << int(MapOpenStreetMap) << 1 << "OpenStreetMap.html en-GB";
+}
+
+void tst_MainWindow::savingSettingsReloadsTheMap()
+{
+    QFETCH(int, language);
+    QFETCH(int, maps);
+    open();
+    QWebEnginePage *shown = mWindow->findChild<QWebEngineView *>()->page();
+    const auto pageTold = [shown](const QString &question) {
+        const auto answer = std::make_shared<QString>(); // which may come too late
+        shown->runJavaScript(question, [answer](const QVariant &value) {
+            *answer = value.toString();
+            QTestEventLoop::instance().exitLoop();
+        });
+        QTestEventLoop::instance().enterLoop(5); // QTest::qWait() starves the web engine
+        return *answer;
+    };
+    const QString question =
+        QStringLiteral("document.readyState + ' ' + location.pathname.split('/').pop() + ' ' + "
+                       "document.documentElement.lang");
+    QTRY_VERIFY_WITH_TIMEOUT(pageTold(question).startsWith("complete BaiduMapIndex.html"), 20000);
+    static int loads;
+    loads = 0;
+    const auto before =
+        qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &line) {
+            loads += line.contains("SetMapType", Qt::CaseInsensitive) ? 1 : 0;
+        });
+    QTimer::singleShot(0, mWindow.get(), [language, maps] {
+        QWidget *dialog = QApplication::activeModalWidget();
+        dialog->findChild<QComboBox *>("cBox_Language")->setCurrentIndex(language);
+        dialog->findChild<QComboBox *>("cBox_Maps")->setCurrentIndex(maps);
+        QTest::mouseClick(dialog->findChild<QPushButton *>("pBtn_OK"), Qt::LeftButton);
+    });
+    QTest::mouseClick(child("pBtn_Step"), Qt::LeftButton);
+    QCOMPARE(Configuration::GetInstance()->language(), Language_e(language));
+    QCOMPARE(Configuration::GetInstance()->maps(), MapTypes(maps));
+    QFETCH(QString, page);
+    QString told;
+    for (int i = 0; i < 40 && told != "complete " + page; ++i)
+        told = pageTold(question);
+    qInstallMessageHandler(before);
+    QCOMPARE(told, "complete " + page);
+    QTEST(loads, "loads");
+}
+
 void tst_MainWindow::changingTheSpeedUnit()
 {
     open();
     const auto *bar = child<QLabel>("pBtn_SP");
-    const auto *gauge = child<SpeedTray>("wgt_Speed");
+    auto *gauge = child<SpeedTray>("wgt_Speed");
+    child<ControlPanel>("wgt_ControlPanel")->setGpsSpeed(100);
+    gauge->setSpeed(100);
     for (const int unit : {1, 0}) {
         QTimer::singleShot(0, mWindow.get(), [unit] {
             QWidget *dialog = QApplication::activeModalWidget();
@@ -266,9 +347,104 @@ void tst_MainWindow::changingTheSpeedUnit()
         });
         QTest::mouseClick(child("pBtn_Step"), Qt::LeftButton);
         QCOMPARE(Configuration::GetInstance()->speedUnit(), unit);
-        QCOMPARE(bar->text(), unit == 1 ? QString("000 MPH") : QString("000 km/h"));
-        QCOMPARE(gauge->speedText(), unit == 1 ? QString("0 MPH") : QString("0 km/h"));
+        QCOMPARE(bar->text(), unit == 1 ? QString("062 MPH") : QString("100 km/h"));
+        QCOMPARE(gauge->speedText(), unit == 1 ? QString("62 MPH") : QString("100 km/h"));
+        QCOMPARE(gauge->needleAngleDeg(), unit == 1 ? -59 : -13);
     }
+}
+
+/** On a logarithmic scale: 1 - 100^-v for a volume v of 1. */
+void tst_MainWindow::showsTheVolume()
+{
+    open();
+    const auto *slider = child<QSlider>("hSlider_Volume");
+    QCOMPARE(slider->value(), 99);
+    child<PlayAreaManager>("wgt_PlayArea")->setVolume(20);
+    QTRY_COMPARE(slider->value(), 60);
+}
+
+void tst_MainWindow::openingAFolderChangesNothing()
+{
+    const QTemporaryDir folder;
+    QVERIFY(QDir(folder.path()).mkpath("CARD.MP4"));
+    Configuration::GetInstance()->setVideoFilePath(QDir::rootPath());
+    open();
+    QTimer::singleShot(0, mWindow.get(), [&] {
+        auto *dialog = mWindow->findChild<QFileDialog *>();
+        dialog->setFileMode(QFileDialog::Directory); // some desktops' dialogs give folders as well
+        dialog->findChild<QLineEdit *>()->setText(folder.filePath("CARD.MP4"));
+        QMetaObject::invokeMethod(dialog, "accept");
+    });
+    QTest::mouseClick(child("btn_OpenFile"), Qt::LeftButton);
+    QCOMPARE(child<QTableView>("tbl_PlayListView")->model()->rowCount(), 0);
+    QCOMPARE(Configuration::GetInstance()->videoFilePath(), QDir::rootPath());
+}
+
+void tst_MainWindow::screenshotsAreTold()
+{
+    const QTemporaryDir folder;
+    const QString recording = folder.filePath("ride.mp4");
+    QVERIFY(makeMediaFile(recording, 20));
+    const QDir shots(folder.filePath("<b>shots"));
+    Configuration::GetInstance()->setScreenshotSavePath(shots.path());
+    open();
+    mWindow->openRecordings({QUrl::fromLocalFile(recording)});
+    QTRY_COMPARE(child<ControlPanel>("wgt_ControlPanel")->state(), QMediaPlayer::PlayingState);
+    const auto *label = child<QLabel>("lbl_FileName");
+    QTest::mouseClick(child("btn_ScreenShot"), Qt::LeftButton);
+    QTRY_VERIFY_WITH_TIMEOUT(label->text().startsWith("Screenshot saved: "), 20000);
+    const QStringList images = shots.entryList(QDir::Files);
+    QCOMPARE(images.size(), 1);
+    QTextDocument toolTip;
+    toolTip.setHtml(label->toolTip());
+    QCOMPARE(toolTip.toPlainText(), "Screenshot saved: " + shots.filePath(images.first()));
+    QTRY_COMPARE_WITH_TIMEOUT(label->text(), QStringLiteral("ride.mp4"), 20000);
+    QCOMPARE(label->toolTip(), QString());
+
+    Configuration::GetInstance()->setScreenshotSavePath(recording + "/below");
+    QTest::mouseClick(child("btn_ScreenShot"), Qt::LeftButton);
+    QTRY_VERIFY_WITH_TIMEOUT(label->text().startsWith("No screenshot: "), 20000);
+    QVERIFY2(!label->toolTip().contains("saved"), "by the request before");
+    Configuration::GetInstance()->setLanguage(EnglishUK);
+    QCOMPARE(label->text(), QString());
+}
+
+void tst_MainWindow::noticesOfScreenshots_data()
+{
+    QTest::addColumn<QVector<ScreenshotResult>>("results"); // of two cameras
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("details");
+    const ScreenshotResult front{ScreenshotResult::Saved, "/shots/front.jpeg"};
+    const ScreenshotResult rear{ScreenshotResult::Saved, "/shots/rear.jpeg"};
+    const ScreenshotResult noRear{ScreenshotResult::NoImage, "/shots/rear.jpeg"};
+    const ScreenshotResult noTool{ScreenshotResult::NoTool, "/bin/ffmpeg"};
+    const QString frontSaved = "Screenshot saved: /shots/front.jpeg";
+    const QString notWritten = "No screenshot: /shots/rear.jpeg could not be written";
+    QTest::newRow("both") << QVector<ScreenshotResult>{front, rear} << "Screenshots saved in /shots"
+                          << frontSaved + "\nScreenshot saved: /shots/rear.jpeg";
+    QTest::newRow("one failed") << QVector<ScreenshotResult>{noRear, front} << notWritten
+                                << notWritten + "\n" + frontSaved;
+    QTest::newRow("both failed") << QVector<ScreenshotResult>{noTool, noTool}
+                                 << "No screenshot: the program /bin/ffmpeg is missing"
+                                 << "";
+}
+
+void tst_MainWindow::noticesOfScreenshots()
+{
+    QFETCH(QVector<ScreenshotResult>, results);
+    ElidedLabel label;
+    label.resize(800, 30);
+    label.setFullText("ride.mp4", QFont());
+    ScreenshotNotice notice(&label);
+    for (int request = 0; request < 2; ++request) { // each by itself
+        notice.begin();
+        for (const ScreenshotResult &result : qAsConst(results))
+            notice.tell(result);
+        QTEST(label.text(), "text");
+        QTEST(label.toolTip(), "details");
+    }
+    label.setFullText("next.mp4", QFont());
+    QCOMPARE(label.text(), QStringLiteral("next.mp4"));
 }
 
 void tst_MainWindow::warnsOfLargeRecordings_data()
@@ -295,6 +471,7 @@ void tst_MainWindow::warnsOfLargeRecordings()
     QFETCH(QString, warning);
     ComputeInfo *computer = ComputeInfo::GetInstance();
     computer->isHDDecodeH264 = computer->isHDDecodeH265 = computer->mCpuLevelH = isCapable;
+    computer->hardwareInfo = QStringLiteral("Some Graphics 4000");
     const QTemporaryDir folder;
     RecordingWriter writer;
     writer.tracks = {Mp4::videoTrack(quint16(size.width()), quint16(size.height()), 300, coding)};
@@ -306,17 +483,20 @@ void tst_MainWindow::warnsOfLargeRecordings()
     QTRY_COMPARE(model->getVideoSize(0), size);
 
     QString text;
+    QString title;
     QTimer box;
-    connect(&box, &QTimer::timeout, this, [&text] {
+    connect(&box, &QTimer::timeout, this, [&] {
         auto *shown = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
         if (!shown)
             return;
         text = shown->text();
+        title = shown->windowTitle();
         shown->accept();
     });
     box.start(20);
     QCOMPARE(mWindow->isSuportH264orH265(0), warning.isEmpty());
     QVERIFY2(warning.isEmpty() ? text.isEmpty() : text.endsWith(warning), qPrintable(text));
+    QCOMPARE(title, warning.isEmpty() ? QString() : QStringLiteral("Error Some Graphics 4000"));
 }
 
 QTEST_MAIN(tst_MainWindow)

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Quellfern
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "configuration.h"
+#include "languagefont.h"
 #include "setting.h"
 
 #include <QComboBox>
@@ -40,7 +41,10 @@ private slots:
     void cleanup();
     void showsAndKeepsStoredValues_data();
     void showsAndKeepsStoredValues();
+    void listsLanguagesInTheirFonts();
     void savesWhatWasChosenAtFirst();
+    void savesInOrder();
+    void tabOrder();
     void leaves_data();
     void leaves();
     void choosesFolder();
@@ -159,6 +163,16 @@ void TestSetting::showsAndKeepsStoredValues()
     QCOMPARE(stored(), after.replace("HOME", QFile::encodeName(mHome->path())));
 }
 
+/** The list has each language in its own Han characters. */
+void TestSetting::listsLanguagesInTheirFonts()
+{
+    open();
+    const auto *box = child<QComboBox>("cBox_Language");
+    for (const Language_e language : {Chinese, Japanese, German})
+        QCOMPARE(box->itemData(language, Qt::FontRole).value<QFont>(),
+                 languageFont(mDialog->font(), language));
+}
+
 /** With windows that process events when the language changes, and an impatient user. */
 void TestSetting::savesWhatWasChosenAtFirst()
 {
@@ -172,13 +186,43 @@ void TestSetting::savesWhatWasChosenAtFirst()
             QTest::keyClick(mDialog->windowHandle(), key);
         QCoreApplication::processEvents();
         title = child<QLabel>("lbl_Title")->text();
+        QVERIFY(QGuiApplication::overrideCursor());
+        QCOMPARE(QGuiApplication::overrideCursor()->shape(), Qt::WaitCursor);
     });
     click("pBtn_OK");
     QCoreApplication::removeTranslator(&texts);
     QVERIFY2(title.startsWith("Geschwindigkeit"), qPrintable(title)); // retranslated meanwhile
+    QVERIFY(!QGuiApplication::overrideCursor());
     QCOMPARE(child<QComboBox>("cBox_Maps")->currentIndex(), int(MapGoogle));
     QCOMPARE(*mFinished, QList<QVariantList>{{QDialog::Accepted}});
     QCOMPARE(stored(), QByteArray("ScreenshotSavePath=/new\nlanguage=3\nmaps=1\nspeedUnit=1\n"));
+}
+
+/** Each setting is in the file, and none behind it, when its change is announced. */
+void TestSetting::savesInOrder()
+{
+    open("ScreenshotSavePath=/old\nlanguage=2\nmaps=2\nspeedUnit=0\n");
+    choose(EnglishUK, MapGoogle, 1, "/new");
+    QByteArrayList files;
+    const auto note = [&] { files.append(stored()); };
+    connect(Configuration::GetInstance(), &Configuration::updateLanguage, mDialog.get(), note);
+    connect(Configuration::GetInstance(), &Configuration::mapsChanged, mDialog.get(), note);
+    connect(mDialog.get(), &QDialog::accepted, mDialog.get(), note);
+    click("pBtn_OK");
+    QCOMPARE(files, QByteArrayList({"ScreenshotSavePath=/old\nlanguage=3\nmaps=2\nspeedUnit=0\n",
+                                    "ScreenshotSavePath=/new\nlanguage=3\nmaps=1\nspeedUnit=0\n",
+                                    "ScreenshotSavePath=/new\nlanguage=3\nmaps=1\nspeedUnit=1\n"}));
+}
+
+void TestSetting::tabOrder()
+{
+    open();
+    child<QWidget>("cBox_Language")->setFocus();
+    for (const char *next : {"cBox_Maps", "cBox_SpeedUnit", "lEdit_SavePath", "pBtn_Choose",
+                             "pBtn_OK", "pBtn_Cancel", "cBox_Language"}) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        QCOMPARE(QApplication::focusWidget()->objectName(), QLatin1String(next));
+    }
 }
 
 void TestSetting::leaves_data()
@@ -229,6 +273,8 @@ void TestSetting::choosesFolder()
         QCOMPARE(start, mHome->filePath("Pictures"));
         QCOMPARE(child<QLineEdit>("lEdit_SavePath")->text(),
                  chosen.isEmpty() ? "/old" : mHome->filePath(chosen));
+        QCOMPARE(child<QLineEdit>("lEdit_SavePath")->toolTip(),
+                 child<QLineEdit>("lEdit_SavePath")->text());
     }
     QCOMPARE(stored(), QByteArray("ScreenshotSavePath=/old\n"));
 }

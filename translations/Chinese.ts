@@ -55,6 +55,34 @@
         <source>%1 MPH</source>
         <translation>%1 mph</translation>
     </message>
+    <message>
+        <source>Date and time</source>
+        <translation>日期和时间</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>速度</translation>
+    </message>
+    <message>
+        <source>Coordinates</source>
+        <translation>坐标</translation>
+    </message>
+    <message>
+        <source>Position in the recording</source>
+        <translation>播放位置</translation>
+    </message>
+    <message>
+        <source>Elapsed and total time</source>
+        <translation>已播放时间和总时间</translation>
+    </message>
+    <message>
+        <source>Playback rate</source>
+        <translation>播放速度</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>静音</translation>
+    </message>
 </context>
 <context>
     <name>FComboBox</name>
@@ -112,6 +140,34 @@
     <message>
         <source>Error</source>
         <translation>错误</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>视频</translation>
+    </message>
+    <message>
+        <source>Playlist</source>
+        <translation>播放列表</translation>
+    </message>
+    <message>
+        <source>Map</source>
+        <translation>地图</translation>
+    </message>
+    <message>
+        <source>Speed gauge</source>
+        <translation>速度表</translation>
+    </message>
+    <message>
+        <source>Compass</source>
+        <translation>指南针</translation>
+    </message>
+    <message>
+        <source>G-sensor chart</source>
+        <translation>重力感应曲线图</translation>
+    </message>
+    <message>
+        <source>Playback controls</source>
+        <translation>播放控制</translation>
     </message>
 </context>
 <context>
@@ -181,6 +237,29 @@
     <message>
         <source>Quellfern</source>
         <translation>Quellfern</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenshotNotice</name>
+    <message>
+        <source>No screenshot: the folder %1 cannot be created</source>
+        <translation>没有截图：无法创建文件夹 %1</translation>
+    </message>
+    <message>
+        <source>No screenshot: the program %1 is missing</source>
+        <translation>没有截图：缺少程序 %1</translation>
+    </message>
+    <message>
+        <source>No screenshot: %1 could not be written</source>
+        <translation>没有截图：无法写入 %1</translation>
+    </message>
+    <message>
+        <source>Screenshot saved: %1</source>
+        <translation>截图已保存：%1</translation>
+    </message>
+    <message>
+        <source>Screenshots saved in %1</source>
+        <translation>截图已保存到 %1</translation>
     </message>
 </context>
 <context>

@@ -25,7 +25,7 @@
     </message>
     <message>
         <source>Capture</source>
-        <translation>擷取畫面</translation>
+        <translation>擷圖</translation>
     </message>
     <message>
         <source>Previous</source>
@@ -54,6 +54,34 @@
     <message>
         <source>%1 MPH</source>
         <translation>%1 mph</translation>
+    </message>
+    <message>
+        <source>Date and time</source>
+        <translation>日期與時間</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>速度</translation>
+    </message>
+    <message>
+        <source>Coordinates</source>
+        <translation>座標</translation>
+    </message>
+    <message>
+        <source>Position in the recording</source>
+        <translation>播放位置</translation>
+    </message>
+    <message>
+        <source>Elapsed and total time</source>
+        <translation>已播放時間與總時間</translation>
+    </message>
+    <message>
+        <source>Playback rate</source>
+        <translation>播放速度</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>靜音</translation>
     </message>
 </context>
 <context>
@@ -112,6 +140,34 @@
     <message>
         <source>Error</source>
         <translation>錯誤</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>影片</translation>
+    </message>
+    <message>
+        <source>Playlist</source>
+        <translation>播放清單</translation>
+    </message>
+    <message>
+        <source>Map</source>
+        <translation>地圖</translation>
+    </message>
+    <message>
+        <source>Speed gauge</source>
+        <translation>速度表</translation>
+    </message>
+    <message>
+        <source>Compass</source>
+        <translation>指南針</translation>
+    </message>
+    <message>
+        <source>G-sensor chart</source>
+        <translation>重力感測曲線圖</translation>
+    </message>
+    <message>
+        <source>Playback controls</source>
+        <translation>播放控制</translation>
     </message>
 </context>
 <context>
@@ -181,6 +237,29 @@
     <message>
         <source>Quellfern</source>
         <translation>Quellfern</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenshotNotice</name>
+    <message>
+        <source>No screenshot: the folder %1 cannot be created</source>
+        <translation>沒有擷圖：無法建立資料夾 %1</translation>
+    </message>
+    <message>
+        <source>No screenshot: the program %1 is missing</source>
+        <translation>沒有擷圖：缺少程式 %1</translation>
+    </message>
+    <message>
+        <source>No screenshot: %1 could not be written</source>
+        <translation>沒有擷圖：無法寫入 %1</translation>
+    </message>
+    <message>
+        <source>Screenshot saved: %1</source>
+        <translation>擷圖已儲存：%1</translation>
+    </message>
+    <message>
+        <source>Screenshots saved in %1</source>
+        <translation>擷圖已儲存於 %1</translation>
     </message>
 </context>
 <context>

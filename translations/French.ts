@@ -55,6 +55,34 @@
         <source>%1 MPH</source>
         <translation>%1 mph</translation>
     </message>
+    <message>
+        <source>Date and time</source>
+        <translation>Date et heure</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Vitesse</translation>
+    </message>
+    <message>
+        <source>Coordinates</source>
+        <translation>Coordonnées</translation>
+    </message>
+    <message>
+        <source>Position in the recording</source>
+        <translation>Position dans l’enregistrement</translation>
+    </message>
+    <message>
+        <source>Elapsed and total time</source>
+        <translation>Temps écoulé et durée totale</translation>
+    </message>
+    <message>
+        <source>Playback rate</source>
+        <translation>Vitesse de lecture</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Couper le son</translation>
+    </message>
 </context>
 <context>
     <name>FComboBox</name>
@@ -112,6 +140,34 @@
     <message>
         <source>Error</source>
         <translation>Erreur</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>Vidéo</translation>
+    </message>
+    <message>
+        <source>Playlist</source>
+        <translation>Liste de lecture</translation>
+    </message>
+    <message>
+        <source>Map</source>
+        <translation>Carte</translation>
+    </message>
+    <message>
+        <source>Speed gauge</source>
+        <translation>Compteur de vitesse</translation>
+    </message>
+    <message>
+        <source>Compass</source>
+        <translation>Boussole</translation>
+    </message>
+    <message>
+        <source>G-sensor chart</source>
+        <translation>Graphique du capteur G</translation>
+    </message>
+    <message>
+        <source>Playback controls</source>
+        <translation>Commandes de lecture</translation>
     </message>
 </context>
 <context>
@@ -181,6 +237,29 @@
     <message>
         <source>Quellfern</source>
         <translation>Quellfern</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenshotNotice</name>
+    <message>
+        <source>No screenshot: the folder %1 cannot be created</source>
+        <translation>Pas de capture : impossible de créer le dossier %1</translation>
+    </message>
+    <message>
+        <source>No screenshot: the program %1 is missing</source>
+        <translation>Pas de capture : le programme %1 est introuvable</translation>
+    </message>
+    <message>
+        <source>No screenshot: %1 could not be written</source>
+        <translation>Pas de capture : impossible d’écrire %1</translation>
+    </message>
+    <message>
+        <source>Screenshot saved: %1</source>
+        <translation>Capture enregistrée : %1</translation>
+    </message>
+    <message>
+        <source>Screenshots saved in %1</source>
+        <translation>Captures enregistrées dans %1</translation>
     </message>
 </context>
 <context>

@@ -55,6 +55,34 @@
         <source>%1 MPH</source>
         <translation>%1 mph</translation>
     </message>
+    <message>
+        <source>Date and time</source>
+        <translation>Datum und Uhrzeit</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Geschwindigkeit</translation>
+    </message>
+    <message>
+        <source>Coordinates</source>
+        <translation>Koordinaten</translation>
+    </message>
+    <message>
+        <source>Position in the recording</source>
+        <translation>Position in der Aufnahme</translation>
+    </message>
+    <message>
+        <source>Elapsed and total time</source>
+        <translation>Vergangene und gesamte Zeit</translation>
+    </message>
+    <message>
+        <source>Playback rate</source>
+        <translation>Wiedergabegeschwindigkeit</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Stummschalten</translation>
+    </message>
 </context>
 <context>
     <name>FComboBox</name>
@@ -112,6 +140,34 @@
     <message>
         <source>Error</source>
         <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>Videobild</translation>
+    </message>
+    <message>
+        <source>Playlist</source>
+        <translation>Wiedergabeliste</translation>
+    </message>
+    <message>
+        <source>Map</source>
+        <translation>Karte</translation>
+    </message>
+    <message>
+        <source>Speed gauge</source>
+        <translation>Tachometer</translation>
+    </message>
+    <message>
+        <source>Compass</source>
+        <translation>Kompass</translation>
+    </message>
+    <message>
+        <source>G-sensor chart</source>
+        <translation>G-Sensor-Diagramm</translation>
+    </message>
+    <message>
+        <source>Playback controls</source>
+        <translation>Wiedergabesteuerung</translation>
     </message>
 </context>
 <context>
@@ -181,6 +237,29 @@
     <message>
         <source>Quellfern</source>
         <translation>Quellfern</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenshotNotice</name>
+    <message>
+        <source>No screenshot: the folder %1 cannot be created</source>
+        <translation>Kein Screenshot: Der Ordner %1 kann nicht angelegt werden</translation>
+    </message>
+    <message>
+        <source>No screenshot: the program %1 is missing</source>
+        <translation>Kein Screenshot: Das Programm %1 fehlt</translation>
+    </message>
+    <message>
+        <source>No screenshot: %1 could not be written</source>
+        <translation>Kein Screenshot: %1 konnte nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>Screenshot saved: %1</source>
+        <translation>Screenshot gespeichert: %1</translation>
+    </message>
+    <message>
+        <source>Screenshots saved in %1</source>
+        <translation>Screenshots gespeichert in %1</translation>
     </message>
 </context>
 <context>
@@ -291,7 +370,7 @@
     </message>
     <message>
         <source>choose</source>
-        <translation>Wählen</translation>
+        <translation>Auswählen</translation>
     </message>
     <message>
         <source>Save</source>

@@ -55,6 +55,34 @@
         <source>%1 MPH</source>
         <translation>%1 mph</translation>
     </message>
+    <message>
+        <source>Date and time</source>
+        <translation>Data e ora</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Velocità</translation>
+    </message>
+    <message>
+        <source>Coordinates</source>
+        <translation>Coordinate</translation>
+    </message>
+    <message>
+        <source>Position in the recording</source>
+        <translation>Posizione nella registrazione</translation>
+    </message>
+    <message>
+        <source>Elapsed and total time</source>
+        <translation>Tempo trascorso e totale</translation>
+    </message>
+    <message>
+        <source>Playback rate</source>
+        <translation>Velocità di riproduzione</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Disattiva audio</translation>
+    </message>
 </context>
 <context>
     <name>FComboBox</name>
@@ -112,6 +140,34 @@
     <message>
         <source>Error</source>
         <translation>Errore</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>Filmato</translation>
+    </message>
+    <message>
+        <source>Playlist</source>
+        <translation>Elenco di riproduzione</translation>
+    </message>
+    <message>
+        <source>Map</source>
+        <translation>Mappa</translation>
+    </message>
+    <message>
+        <source>Speed gauge</source>
+        <translation>Tachimetro</translation>
+    </message>
+    <message>
+        <source>Compass</source>
+        <translation>Bussola</translation>
+    </message>
+    <message>
+        <source>G-sensor chart</source>
+        <translation>Grafico del sensore G</translation>
+    </message>
+    <message>
+        <source>Playback controls</source>
+        <translation>Comandi di riproduzione</translation>
     </message>
 </context>
 <context>
@@ -181,6 +237,29 @@
     <message>
         <source>Quellfern</source>
         <translation>Quellfern</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenshotNotice</name>
+    <message>
+        <source>No screenshot: the folder %1 cannot be created</source>
+        <translation>Nessuna schermata: impossibile creare la cartella %1</translation>
+    </message>
+    <message>
+        <source>No screenshot: the program %1 is missing</source>
+        <translation>Nessuna schermata: manca il programma %1</translation>
+    </message>
+    <message>
+        <source>No screenshot: %1 could not be written</source>
+        <translation>Nessuna schermata: impossibile scrivere %1</translation>
+    </message>
+    <message>
+        <source>Screenshot saved: %1</source>
+        <translation>Schermata salvata: %1</translation>
+    </message>
+    <message>
+        <source>Screenshots saved in %1</source>
+        <translation>Schermate salvate in %1</translation>
     </message>
 </context>
 <context>

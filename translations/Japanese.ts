@@ -55,6 +55,34 @@
         <source>%1 MPH</source>
         <translation>%1 mph</translation>
     </message>
+    <message>
+        <source>Date and time</source>
+        <translation>日時</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>速度</translation>
+    </message>
+    <message>
+        <source>Coordinates</source>
+        <translation>座標</translation>
+    </message>
+    <message>
+        <source>Position in the recording</source>
+        <translation>再生位置</translation>
+    </message>
+    <message>
+        <source>Elapsed and total time</source>
+        <translation>経過時間と全体の長さ</translation>
+    </message>
+    <message>
+        <source>Playback rate</source>
+        <translation>再生速度</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>ミュート</translation>
+    </message>
 </context>
 <context>
     <name>FComboBox</name>
@@ -112,6 +140,34 @@
     <message>
         <source>Error</source>
         <translation>エラー</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>映像</translation>
+    </message>
+    <message>
+        <source>Playlist</source>
+        <translation>再生リスト</translation>
+    </message>
+    <message>
+        <source>Map</source>
+        <translation>地図</translation>
+    </message>
+    <message>
+        <source>Speed gauge</source>
+        <translation>速度計</translation>
+    </message>
+    <message>
+        <source>Compass</source>
+        <translation>コンパス</translation>
+    </message>
+    <message>
+        <source>G-sensor chart</source>
+        <translation>Gセンサーのグラフ</translation>
+    </message>
+    <message>
+        <source>Playback controls</source>
+        <translation>再生コントロール</translation>
     </message>
 </context>
 <context>
@@ -181,6 +237,29 @@
     <message>
         <source>Quellfern</source>
         <translation>Quellfern</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenshotNotice</name>
+    <message>
+        <source>No screenshot: the folder %1 cannot be created</source>
+        <translation>スクリーンショットを保存できません: フォルダー %1 を作成できません</translation>
+    </message>
+    <message>
+        <source>No screenshot: the program %1 is missing</source>
+        <translation>スクリーンショットを保存できません: プログラム %1 がありません</translation>
+    </message>
+    <message>
+        <source>No screenshot: %1 could not be written</source>
+        <translation>スクリーンショットを保存できません: %1 に書き込めません</translation>
+    </message>
+    <message>
+        <source>Screenshot saved: %1</source>
+        <translation>スクリーンショットを保存しました: %1</translation>
+    </message>
+    <message>
+        <source>Screenshots saved in %1</source>
+        <translation>スクリーンショットの保存先: %1</translation>
     </message>
 </context>
 <context>

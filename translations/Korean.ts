@@ -55,6 +55,34 @@
         <source>%1 MPH</source>
         <translation>%1 mph</translation>
     </message>
+    <message>
+        <source>Date and time</source>
+        <translation>날짜 및 시간</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>속도</translation>
+    </message>
+    <message>
+        <source>Coordinates</source>
+        <translation>좌표</translation>
+    </message>
+    <message>
+        <source>Position in the recording</source>
+        <translation>재생 위치</translation>
+    </message>
+    <message>
+        <source>Elapsed and total time</source>
+        <translation>경과 시간 및 전체 시간</translation>
+    </message>
+    <message>
+        <source>Playback rate</source>
+        <translation>재생 속도</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>음소거</translation>
+    </message>
 </context>
 <context>
     <name>FComboBox</name>
@@ -112,6 +140,34 @@
     <message>
         <source>Error</source>
         <translation>오류</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>동영상</translation>
+    </message>
+    <message>
+        <source>Playlist</source>
+        <translation>재생 목록</translation>
+    </message>
+    <message>
+        <source>Map</source>
+        <translation>지도</translation>
+    </message>
+    <message>
+        <source>Speed gauge</source>
+        <translation>속도계</translation>
+    </message>
+    <message>
+        <source>Compass</source>
+        <translation>나침반</translation>
+    </message>
+    <message>
+        <source>G-sensor chart</source>
+        <translation>G센서 그래프</translation>
+    </message>
+    <message>
+        <source>Playback controls</source>
+        <translation>재생 컨트롤</translation>
     </message>
 </context>
 <context>
@@ -181,6 +237,29 @@
     <message>
         <source>Quellfern</source>
         <translation>Quellfern</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenshotNotice</name>
+    <message>
+        <source>No screenshot: the folder %1 cannot be created</source>
+        <translation>화면 캡처 없음: 폴더 %1을(를) 만들 수 없습니다</translation>
+    </message>
+    <message>
+        <source>No screenshot: the program %1 is missing</source>
+        <translation>화면 캡처 없음: 프로그램 %1이(가) 없습니다</translation>
+    </message>
+    <message>
+        <source>No screenshot: %1 could not be written</source>
+        <translation>화면 캡처 없음: %1에 쓸 수 없습니다</translation>
+    </message>
+    <message>
+        <source>Screenshot saved: %1</source>
+        <translation>화면 캡처 저장됨: %1</translation>
+    </message>
+    <message>
+        <source>Screenshots saved in %1</source>
+        <translation>화면 캡처가 저장된 폴더: %1</translation>
     </message>
 </context>
 <context>

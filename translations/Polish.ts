@@ -55,6 +55,34 @@
         <source>%1 MPH</source>
         <translation>%1 mph</translation>
     </message>
+    <message>
+        <source>Date and time</source>
+        <translation>Data i godzina</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Prędkość</translation>
+    </message>
+    <message>
+        <source>Coordinates</source>
+        <translation>Współrzędne</translation>
+    </message>
+    <message>
+        <source>Position in the recording</source>
+        <translation>Pozycja w nagraniu</translation>
+    </message>
+    <message>
+        <source>Elapsed and total time</source>
+        <translation>Czas odtworzony i całkowity</translation>
+    </message>
+    <message>
+        <source>Playback rate</source>
+        <translation>Szybkość odtwarzania</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Wycisz</translation>
+    </message>
 </context>
 <context>
     <name>FComboBox</name>
@@ -113,6 +141,34 @@
         <source>Error</source>
         <translation>Błąd</translation>
     </message>
+    <message>
+        <source>Video</source>
+        <translation>Obraz</translation>
+    </message>
+    <message>
+        <source>Playlist</source>
+        <translation>Lista odtwarzania</translation>
+    </message>
+    <message>
+        <source>Map</source>
+        <translation>Mapa</translation>
+    </message>
+    <message>
+        <source>Speed gauge</source>
+        <translation>Prędkościomierz</translation>
+    </message>
+    <message>
+        <source>Compass</source>
+        <translation>Kompas</translation>
+    </message>
+    <message>
+        <source>G-sensor chart</source>
+        <translation>Wykres czujnika przeciążeń</translation>
+    </message>
+    <message>
+        <source>Playback controls</source>
+        <translation>Sterowanie odtwarzaniem</translation>
+    </message>
 </context>
 <context>
     <name>PlaylistModel</name>
@@ -122,7 +178,7 @@
     </message>
     <message>
         <source>Duration</source>
-        <translation>Długość</translation>
+        <translation>Czas trwania</translation>
     </message>
     <message>
         <source>Create Date</source>
@@ -181,6 +237,29 @@
     <message>
         <source>Quellfern</source>
         <translation>Quellfern</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenshotNotice</name>
+    <message>
+        <source>No screenshot: the folder %1 cannot be created</source>
+        <translation>Brak zrzutu ekranu: nie można utworzyć folderu %1</translation>
+    </message>
+    <message>
+        <source>No screenshot: the program %1 is missing</source>
+        <translation>Brak zrzutu ekranu: brakuje programu %1</translation>
+    </message>
+    <message>
+        <source>No screenshot: %1 could not be written</source>
+        <translation>Brak zrzutu ekranu: nie można zapisać %1</translation>
+    </message>
+    <message>
+        <source>Screenshot saved: %1</source>
+        <translation>Zapisano zrzut ekranu: %1</translation>
+    </message>
+    <message>
+        <source>Screenshots saved in %1</source>
+        <translation>Zapisano zrzuty ekranu w %1</translation>
     </message>
 </context>
 <context>

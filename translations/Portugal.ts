@@ -55,6 +55,34 @@
         <source>%1 MPH</source>
         <translation>%1 mph</translation>
     </message>
+    <message>
+        <source>Date and time</source>
+        <translation>Data e hora</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Velocidade</translation>
+    </message>
+    <message>
+        <source>Coordinates</source>
+        <translation>Coordenadas</translation>
+    </message>
+    <message>
+        <source>Position in the recording</source>
+        <translation>Posição na gravação</translation>
+    </message>
+    <message>
+        <source>Elapsed and total time</source>
+        <translation>Tempo decorrido e total</translation>
+    </message>
+    <message>
+        <source>Playback rate</source>
+        <translation>Velocidade de reprodução</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Silenciar</translation>
+    </message>
 </context>
 <context>
     <name>FComboBox</name>
@@ -112,6 +140,34 @@
     <message>
         <source>Error</source>
         <translation>Erro</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>Vídeo</translation>
+    </message>
+    <message>
+        <source>Playlist</source>
+        <translation>Lista de reprodução</translation>
+    </message>
+    <message>
+        <source>Map</source>
+        <translation>Mapa</translation>
+    </message>
+    <message>
+        <source>Speed gauge</source>
+        <translation>Velocímetro</translation>
+    </message>
+    <message>
+        <source>Compass</source>
+        <translation>Bússola</translation>
+    </message>
+    <message>
+        <source>G-sensor chart</source>
+        <translation>Gráfico do sensor G</translation>
+    </message>
+    <message>
+        <source>Playback controls</source>
+        <translation>Controlos de reprodução</translation>
     </message>
 </context>
 <context>
@@ -181,6 +237,29 @@
     <message>
         <source>Quellfern</source>
         <translation>Quellfern</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenshotNotice</name>
+    <message>
+        <source>No screenshot: the folder %1 cannot be created</source>
+        <translation>Sem captura: não é possível criar a pasta %1</translation>
+    </message>
+    <message>
+        <source>No screenshot: the program %1 is missing</source>
+        <translation>Sem captura: falta o programa %1</translation>
+    </message>
+    <message>
+        <source>No screenshot: %1 could not be written</source>
+        <translation>Sem captura: não foi possível escrever %1</translation>
+    </message>
+    <message>
+        <source>Screenshot saved: %1</source>
+        <translation>Captura guardada: %1</translation>
+    </message>
+    <message>
+        <source>Screenshots saved in %1</source>
+        <translation>Capturas guardadas em %1</translation>
     </message>
 </context>
 <context>

@@ -25,7 +25,7 @@
     </message>
     <message>
         <source>Capture</source>
-        <translation>Снимок экрана</translation>
+        <translation>Снимок кадра</translation>
     </message>
     <message>
         <source>Previous</source>
@@ -54,6 +54,34 @@
     <message>
         <source>%1 MPH</source>
         <translation>%1 миль/ч</translation>
+    </message>
+    <message>
+        <source>Date and time</source>
+        <translation>Дата и время</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Скорость</translation>
+    </message>
+    <message>
+        <source>Coordinates</source>
+        <translation>Координаты</translation>
+    </message>
+    <message>
+        <source>Position in the recording</source>
+        <translation>Позиция в записи</translation>
+    </message>
+    <message>
+        <source>Elapsed and total time</source>
+        <translation>Прошедшее и общее время</translation>
+    </message>
+    <message>
+        <source>Playback rate</source>
+        <translation>Скорость воспроизведения</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Выключить звук</translation>
     </message>
 </context>
 <context>
@@ -113,6 +141,34 @@
         <source>Error</source>
         <translation>Ошибка</translation>
     </message>
+    <message>
+        <source>Video</source>
+        <translation>Видео</translation>
+    </message>
+    <message>
+        <source>Playlist</source>
+        <translation>Список воспроизведения</translation>
+    </message>
+    <message>
+        <source>Map</source>
+        <translation>Карта</translation>
+    </message>
+    <message>
+        <source>Speed gauge</source>
+        <translation>Спидометр</translation>
+    </message>
+    <message>
+        <source>Compass</source>
+        <translation>Компас</translation>
+    </message>
+    <message>
+        <source>G-sensor chart</source>
+        <translation>График G-сенсора</translation>
+    </message>
+    <message>
+        <source>Playback controls</source>
+        <translation>Управление воспроизведением</translation>
+    </message>
 </context>
 <context>
     <name>PlaylistModel</name>
@@ -122,7 +178,7 @@
     </message>
     <message>
         <source>Duration</source>
-        <translation>Время</translation>
+        <translation>Длительность</translation>
     </message>
     <message>
         <source>Create Date</source>
@@ -181,6 +237,29 @@
     <message>
         <source>Quellfern</source>
         <translation>Quellfern</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenshotNotice</name>
+    <message>
+        <source>No screenshot: the folder %1 cannot be created</source>
+        <translation>Нет снимка кадра: не удалось создать папку %1</translation>
+    </message>
+    <message>
+        <source>No screenshot: the program %1 is missing</source>
+        <translation>Нет снимка кадра: отсутствует программа %1</translation>
+    </message>
+    <message>
+        <source>No screenshot: %1 could not be written</source>
+        <translation>Нет снимка кадра: не удалось записать %1</translation>
+    </message>
+    <message>
+        <source>Screenshot saved: %1</source>
+        <translation>Снимок кадра сохранён: %1</translation>
+    </message>
+    <message>
+        <source>Screenshots saved in %1</source>
+        <translation>Снимки кадров сохранены в %1</translation>
     </message>
 </context>
 <context>
@@ -275,7 +354,7 @@
     </message>
     <message>
         <source>SpeedUnit</source>
-        <translation>Единица скорости</translation>
+        <translation>Единицы скорости</translation>
     </message>
     <message>
         <source>Km/h</source>
