@@ -4,7 +4,7 @@
 
 #include "capturethread.h"
 #include "mediaurl.h"
-#include "windowwithdrawal.h"
+#include "windowhandover.h"
 
 #include <QDebug>
 #include <QGuiApplication>
@@ -203,8 +203,12 @@ void PlayerWidget::withdraw()
 {
     // While this is still a window of its own: not every manager gives the keyboard back itself,
     // and it is not asked to when a part of the same window has it. Another program keeps it.
-    if (parentWidget() && QGuiApplication::applicationState() == Qt::ApplicationActive)
-        parentWidget()->activateWindow();
+    QWidget *heir = parentWidget() ? parentWidget()->window() : nullptr;
+    if (heir && heir->windowHandle() &&
+        QGuiApplication::applicationState() == Qt::ApplicationActive) {
+        heir->activateWindow();
+        waitForKeyboard(*heir->windowHandle());
+    }
     hide();
     if (windowHandle())
         waitForWithdrawal(*windowHandle());

@@ -101,8 +101,11 @@ void tst_MainWindow::restoresGeometry_data()
     QTest::addColumn<QRect>("expected"); // empty: as large as the screen
     QTest::newRow("on the screen") << QRect(50, 60, 1000, 700) << false << QRect(50, 60, 1000, 700);
     QTest::newRow("monitor gone") << QRect(10000, 60, 1000, 700) << false << DefaultRect;
-    QTest::newRow("centre just visible")
-        << QRect(1100, 60, 980, 700) << false << QRect(1100, 60, 980, 700);
+    QTest::newRow("partly to the right")
+        << QRect(1100, 60, 980, 700) << false << QRect(620, 60, 980, 700);
+    QTest::newRow("beyond the corner")
+        << QRect(-300, -200, 1000, 700) << false << QRect(0, 0, 1000, 700);
+    QTest::newRow("too large") << QRect(-100, 50, 2000, 1100) << false << QRect(0, 0, 1600, 1000);
     QTest::newRow("maximised") << QRect(50, 60, 1000, 700) << true << QRect();
 }
 

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Quellfern
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "windowwithdrawal.h"
+#include "windowhandover.h"
 
 #ifdef TALVOR_WITH_X11
 #include <QDeadlineTimer>
@@ -17,7 +17,8 @@
 
 namespace {
 
-constexpr int PatienceMs = 1000;
+constexpr int KeyboardMs = 300;
+constexpr int WithdrawalMs = 1000;
 
 struct Free
 {
@@ -42,9 +43,10 @@ xcb_atom_t stateAtom(xcb_connection_t *connection)
 }
 
 /** The manager has put the window out of its frame, and says that it no longer keeps it. */
-bool isWithdrawn(xcb_connection_t *connection, xcb_window_t window, xcb_atom_t atom)
+bool isWithdrawn(xcb_connection_t *connection, xcb_window_t window)
 {
     constexpr quint32 withdrawn = 0;
+    const xcb_atom_t atom = stateAtom(connection);
     const Owned<xcb_query_tree_reply_t> tree(
         xcb_query_tree_reply(connection, xcb_query_tree(connection, window), nullptr));
     const Owned<xcb_get_property_reply_t> state(xcb_get_property_reply(
@@ -57,32 +59,49 @@ bool isWithdrawn(xcb_connection_t *connection, xcb_window_t window, xcb_atom_t a
     return tree->parent == tree->root && !isKept;
 }
 
-/** Waits until something happens to the window, and drops what is known of it. */
-void waitForEvents(xcb_connection_t *connection, const QDeadlineTimer &deadline)
+bool hasKeyboard(xcb_connection_t *connection, xcb_window_t window)
 {
-    pollfd waiting{xcb_get_file_descriptor(connection), POLLIN, 0};
-    poll(&waiting, 1, int(deadline.remainingTime()));
-    while (Owned<xcb_generic_event_t>(xcb_poll_for_event(connection))) {
-    }
+    const Owned<xcb_get_input_focus_reply_t> reply(
+        xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr));
+    return !reply || reply->focus == window;
 }
 
-} // namespace
-
-void waitForWithdrawal(const QWindow &window)
+/** Looks whenever something happens to the window. */
+void waitUntil(bool (*isReached)(xcb_connection_t *, xcb_window_t), const QWindow &window,
+               int patienceMs)
 {
     if (QGuiApplication::platformName() != QLatin1String("xcb"))
         return;
     const Connection connection(xcb_connect(nullptr, nullptr));
     const auto id = xcb_window_t(window.winId());
-    const quint32 events = XCB_EVENT_MASK_STRUCTURE_NOTIFY | XCB_EVENT_MASK_PROPERTY_CHANGE;
+    const quint32 events = XCB_EVENT_MASK_STRUCTURE_NOTIFY | XCB_EVENT_MASK_PROPERTY_CHANGE |
+                           XCB_EVENT_MASK_FOCUS_CHANGE;
     xcb_change_window_attributes(connection.get(), id, XCB_CW_EVENT_MASK, &events);
-    const xcb_atom_t atom = stateAtom(connection.get());
-    const QDeadlineTimer deadline(PatienceMs);
-    while (!deadline.hasExpired() && !isWithdrawn(connection.get(), id, atom))
-        waitForEvents(connection.get(), deadline);
+    const QDeadlineTimer deadline(patienceMs);
+    while (!deadline.hasExpired() && !isReached(connection.get(), id)) {
+        // An answer may have brought an event along, on which the socket would not wait any more.
+        if (Owned<xcb_generic_event_t>(xcb_poll_for_event(connection.get())))
+            continue;
+        pollfd waiting{xcb_get_file_descriptor(connection.get()), POLLIN, 0};
+        poll(&waiting, 1, int(deadline.remainingTime()));
+    }
+}
+
+} // namespace
+
+void waitForKeyboard(const QWindow &window)
+{
+    waitUntil(hasKeyboard, window, KeyboardMs);
+}
+
+void waitForWithdrawal(const QWindow &window)
+{
+    waitUntil(isWithdrawn, window, WithdrawalMs);
 }
 
 #else
+
+void waitForKeyboard(const QWindow &) {}
 
 void waitForWithdrawal(const QWindow &) {}
 
