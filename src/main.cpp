@@ -66,14 +66,11 @@ void scaleAsSet(bool isSet)
 #endif
 }
 
-/** As the user does, who would answer an open dialog first. */
+/** As the user does; open dialogs end with it, even one that stands for itself. */
 void closeProgram(QWidget *window)
 {
-    QWidget *dialog = QApplication::activeModalWidget();
-    while (dialog && dialog->isVisible() && dialog->close())
-        dialog = QApplication::activeModalWidget();
     window->close();
-    QCoreApplication::quit(); // the dialogs' loops as well
+    QCoreApplication::quit();
 }
 
 } // namespace

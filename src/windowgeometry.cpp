@@ -86,7 +86,9 @@ bool WindowGeometry::eventFilter(QObject *watched, QEvent *event)
 void WindowGeometry::fit()
 {
     const QRect rect = mWindow->geometry();
-    if (mWindow->isMaximized() || isAvailable(rect))
+    // Without a display, the screen is made up.
+    const bool isDisplayed = QGuiApplication::platformName() != QLatin1String("offscreen");
+    if (!isDisplayed || mWindow->isMaximized() || isAvailable(rect))
         return;
     const QSize minimum = mWindow->minimumSize().expandedTo(mWindow->minimumSizeHint());
     mUnconfirmedRect = movedInto(availableArea(rect.center()), rect, minimum);

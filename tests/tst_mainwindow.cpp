@@ -48,6 +48,7 @@ private slots:
 
     void restoresGeometry_data();
     void restoresGeometry();
+    void confirmsGeometryOnce();
     void closingStoresGeometry();
     void maximizes_data();
     void maximizes();
@@ -123,6 +124,25 @@ void tst_MainWindow::restoresGeometry()
         QTRY_COMPARE(mWindow->size(), QSize(1600, 1000));
     else
         QTRY_COMPARE(mWindow->geometry(), expected);
+}
+
+/** A window manager may make Qt believe the window to be elsewhere, but later the user moves it. */
+void tst_MainWindow::confirmsGeometryOnce()
+{
+    mWindow = std::make_unique<MainWindows>();
+    const QPoint frame(4, 24);
+    mWindow->move(DefaultRect.topLeft() + frame);
+    mWindow->show();
+    QVERIFY(QTest::qWaitForWindowActive(mWindow.get()));
+    QTRY_COMPARE(mWindow->geometry(), DefaultRect);
+
+    const QRect moved = DefaultRect.translated(-50, 60);
+    mWindow->setGeometry(moved);
+    QTRY_COMPARE(mWindow->geometry(), moved);
+    mWindow->hide();
+    mWindow->show();
+    QVERIFY(QTest::qWaitForWindowActive(mWindow.get()));
+    QCOMPARE(mWindow->geometry(), moved);
 }
 
 void tst_MainWindow::closingStoresGeometry()
