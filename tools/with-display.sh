@@ -83,6 +83,7 @@ export DISPLAY
 
 # A server that has just started may refuse its first client. The manager announces itself on the
 # root window; before that, windows open unmanaged.
+# shellcheck disable=SC2086,SC2317 # a command of several words; reached through wait_for
 announced() {
     if [ -z "$manager" ] || ! kill -0 "$manager"; then
         env XDG_CONFIG_HOME="$work" XDG_CACHE_HOME="$work" GSETTINGS_BACKEND=memory \
