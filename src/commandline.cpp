@@ -21,11 +21,45 @@ void print(std::FILE *stream, const QString &line)
     std::fprintf(stream, "%s\n", qUtf8Printable(line));
 }
 
+/** Options of Qt, which the application object reads, with the number of words they take. */
+const struct
+{
+    const char *name;
+    int words;
+} QtOptions[] = {
+    {"platform", 2},        {"platformpluginpath", 2},
+    {"platformtheme", 2},   {"plugin", 2},
+    {"qwindowgeometry", 2}, {"geometry", 2},
+    {"qwindowtitle", 2},    {"title", 2},
+    {"qwindowicon", 2},     {"icon", 2},
+    {"display", 2},         {"name", 2},
+    {"visual", 2},          {"session", 2},
+    {"style", 2},           {"stylesheet", 2},
+    {"reverse", 1},         {"widgetcount", 1},
+    {"nograb", 1},          {"dograb", 1},
+};
+
+/** How many words from this one on are an option of Qt's; 0 if it is none. */
+int wordsForQt(const QByteArray &word)
+{
+    const QByteArray name = word.mid(word.startsWith("--") ? 2 : 1);
+    for (const auto &option : QtOptions) {
+        if (word.startsWith('-') && name == option.name)
+            return option.words;
+        if (word.startsWith('-') && option.words == 2 &&
+            name.startsWith(option.name + QByteArray("=")))
+            return 1;
+    }
+    return 0;
+}
+
 QUrl urlOf(const QString &argument)
 {
     if (!argument.startsWith(FileScheme, Qt::CaseInsensitive))
         return QUrl::fromLocalFile(QFileInfo(argument).absoluteFilePath());
-    const QUrl url(argument);
+    QUrl url(argument);
+    if (url.host() == QLatin1String("localhost"))
+        url.setHost(QString());
     // A URL typed by hand may carry '#' or '%' as they are.
     const QString verbatimPath = argument.mid(FileScheme.size());
     const bool isVerbatim =
@@ -68,6 +102,21 @@ bool CommandLine::asksForInformation(int argc, const char *const *argv)
             return true;
     }
     return false;
+}
+
+QStringList CommandLine::ownArguments(int argc, const char *const *argv)
+{
+    QStringList own;
+    bool isForQt = true;
+    for (int i = 0; i < argc; ++i) {
+        isForQt = isForQt && std::strcmp(argv[i], "--") != 0;
+        const int words = isForQt && i > 0 ? wordsForQt(argv[i]) : 0;
+        if (words == 0)
+            own.append(QString::fromUtf8(argv[i]));
+        else
+            i += words - 1;
+    }
+    return own;
 }
 
 void CommandLine::printInformation(const QStringList &arguments)

@@ -8,8 +8,8 @@
 #include <QUrl>
 
 /**
- * The command line: options, and recordings to open, as paths or file URLs. Qt's own options
- * (such as -platform) are taken out by the application object before it gets here.
+ * The command line: options, and recordings to open, as paths or file URLs. It is read before there
+ * is an application object, since that needs a display.
  */
 class CommandLine
 {
@@ -21,6 +21,9 @@ public:
     /** Prints what was asked for on standard output. Needs a QCoreApplication. */
     void printInformation(const QStringList &arguments);
 
+    /** The command line without Qt's own options (such as -platform); the first is the program. All
+     *  behind "--" stays as it is. File names are taken to be UTF-8, as everywhere else. */
+    static QStringList ownArguments(int argc, const char *const *argv);
     /** Returns false, with the reason on standard error, when an option is unknown. */
     bool parse(const QStringList &arguments);
 

@@ -3,9 +3,11 @@
 #include "appname.h"
 #include "commandline.h"
 #include "configuration.h"
+#include "displaycheck.h"
 #include "languagefont.h"
 #include "macnosleeper.h"
 #include "mainwindows.h"
+#include "terminationwatch.h"
 
 #include <QApplication>
 #include <QFont>
@@ -14,6 +16,7 @@
 
 #include <unistd.h>
 
+#include <cstdio>
 #include <cstdlib>
 
 namespace {
@@ -47,22 +50,52 @@ int printInformation(int argc, char *argv[])
     return EXIT_SUCCESS;
 }
 
+bool hasDisplay(int argc, const char *const *argv)
+{
+    const QString obstacle = displayObstacle(argc, argv);
+    if (!obstacle.isEmpty())
+        std::fprintf(stderr, "talvor-player: cannot show a window: %s.\n",
+                     qUtf8Printable(obstacle));
+    return obstacle.isEmpty();
+}
+
+/** One and a half times the size stays that, and is not made twice the size. */
+void scaleAsSet(bool isSet)
+{
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+#if QT_VERSION >= QT_VERSION_CHECK(5, 14, 0)
+    if (isSet)
+        QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
+            Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+#else
+    Q_UNUSED(isSet)
+#endif
+}
+
+/** As the user does; open dialogs end with it, even one that stands for itself. */
+void closeProgram(QWidget *window)
+{
+    window->close();
+    QCoreApplication::quit();
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
 {
     if (CommandLine::asksForInformation(argc, argv))
         return printInformation(argc, argv);
+    CommandLine commandLine;
+    if (!commandLine.parse(CommandLine::ownArguments(argc, argv)))
+        return EXIT_FAILURE;
     preferX11();
+    if (!hasDisplay(argc, argv))
+        return EXIT_FAILURE;
     allowMapAsRoot();
-    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
-    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    scaleAsSet(isResolutionSet(argc, argv));
 
     QApplication application(argc, argv);
-    CommandLine commandLine;
-    if (!commandLine.parse(QCoreApplication::arguments()))
-        return EXIT_FAILURE;
-
     QApplication::setWindowIcon(QIcon(QStringLiteral(":image/logo.png")));
     const MacNoSleeper noSleeper;
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
@@ -77,6 +110,9 @@ int main(int argc, char *argv[])
     Configuration::GetInstance()->setLanguage(Configuration::GetInstance()->language());
 
     MainWindows window;
+    const TerminationWatch termination;
+    QObject::connect(&termination, &TerminationWatch::requested, &window,
+                     [&window] { closeProgram(&window); });
     window.show();
     window.openRecordings(commandLine.recordings());
     return QApplication::exec();

@@ -359,8 +359,6 @@ void MainWindows::changeEvent(QEvent *event)
     // The window manager may maximise or restore the window as well.
     if (event->type() == QEvent::WindowStateChange)
         showMaximizedState();
-    else if (event->type() == QEvent::ActivationChange && isActiveWindow())
-        mGeometry.confirm();
 }
 
 void MainWindows::installMoving()

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "movefilter.h"
 
+#include <QApplication>
 #include <QCursor>
-#include <QGuiApplication>
 #include <QMouseEvent>
 #include <QWidget>
 #include <QWindow>
@@ -66,15 +66,36 @@ void MoveFilter::press(const QMouseEvent &event)
     if (event.button() != Qt::LeftButton)
         return;
     mPressPos = event.localPos().toPoint();
+    mPressedFrom = event.globalPos();
     mPressed = true;
 }
 
 void MoveFilter::drag()
 {
-    if (!mPressed)
+    if (!mPressed || !isMeant())
         return;
-    if (moveBySystem(mMoveWidget))
+    if (moveBySystem(mMoveWidget)) {
         mPressed = false;
-    else
-        mMoveWidget->move(QCursor::pos() - mPressPos);
+        return;
+    }
+    if (mMoveWidget->isMaximized())
+        restoreUnderPointer();
+    mMoveWidget->move(QCursor::pos() - mPressPos);
+}
+
+/** A maximised window must not be torn loose by a hand that only trembles. */
+bool MoveFilter::isMeant() const
+{
+    return !mMoveWidget->isMaximized() ||
+           (QCursor::pos() - mPressedFrom).manhattanLength() >= QApplication::startDragDistance();
+}
+
+/** Gives the window its normal size, and puts it where the pointer stays at the same part of it.
+ *  Moving alone would leave it as large as it is. */
+void MoveFilter::restoreUnderPointer()
+{
+    const QSize size = mMoveWidget->normalGeometry().size();
+    mPressPos.setX(mPressPos.x() * size.width() / mMoveWidget->width());
+    mMoveWidget->showNormal();
+    mMoveWidget->setGeometry(QRect(QCursor::pos() - mPressPos, size));
 }

@@ -10,7 +10,8 @@ class QWidget;
 
 /**
  * Moves a frameless window by dragging: an event filter on one widget (the window itself or a
- * part of it) that moves the target window. It never consumes an event. GUI thread only.
+ * part of it) that moves the target window. A maximised window is restored by it, once the pointer
+ * has gone far enough to mean it. It never consumes an event. GUI thread only.
  */
 class MoveFilter : public QObject
 {
@@ -31,9 +32,12 @@ signals:
 private:
     void press(const QMouseEvent &event);
     void drag();
+    bool isMeant() const;
+    void restoreUnderPointer();
 
     QWidget *mMoveWidget = nullptr;
     QWidget *mWatched = nullptr;
     bool mPressed = false;
-    QPoint mPressPos; // in the watched widget
+    QPoint mPressPos;    // in the watched widget
+    QPoint mPressedFrom; // on the screen
 };

@@ -4,6 +4,7 @@
 
 #include "capturethread.h"
 #include "mediaurl.h"
+#include "windowhandover.h"
 
 #include <QDebug>
 #include <QGuiApplication>
@@ -31,9 +32,6 @@ PlayerWidget::PlayerWidget(QWidget *parent) : QVideoWidget(parent)
     mFitTimer.setInterval(ResizeSettleMs);
     connect(&mFitTimer, &QTimer::timeout, this, &PlayerWidget::fitPausedPicture);
     setUpdatesEnabled(true);
-    // In full screen the widget is a window. A window manager that had taken it over would let go
-    // of it only after it is back in its parent, and thereby take it out again.
-    setWindowFlag(Qt::BypassWindowManagerHint);
 }
 
 PlayerWidget::~PlayerWidget()
@@ -94,10 +92,16 @@ void PlayerWidget::onCaptureThreadFinished()
 
 void PlayerWidget::onApplicationStateChanged(Qt::ApplicationState applicationState)
 {
-    if (!isFullScreen() || applicationState == Qt::ApplicationActive)
-        return;
-    emit fullScreen(false);
-    setFullScreen(false);
+    if (isFullScreen() && applicationState != Qt::ApplicationActive)
+        changeFullScreen(false);
+}
+
+/** The window manager may end full screen as well, and leave a window behind. */
+void PlayerWidget::returnToParent()
+{
+    const bool isLeftBehind = isWindow() && parentWidget() && !isFullScreen();
+    if (isLeftBehind)
+        changeFullScreen(false);
 }
 
 void PlayerWidget::keyPressEvent(QKeyEvent *event)
@@ -136,6 +140,24 @@ void PlayerWidget::resizeEvent(QResizeEvent *event)
     mFitTimer.start();
 }
 
+void PlayerWidget::changeEvent(QEvent *event)
+{
+    QVideoWidget::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange)
+        QTimer::singleShot(0, this, &PlayerWidget::returnToParent); // not amid the change
+}
+
+// In full screen it stands for the main window, and its end is that window's.
+void PlayerWidget::closeEvent(QCloseEvent *event)
+{
+    QVideoWidget::closeEvent(event);
+    if (!isFullScreen() || !parentWidget())
+        return;
+    event->ignore();
+    changeFullScreen(false);
+    window()->close();
+}
+
 /** Frames are scaled when they come: a paused player shows its own once more, in the new size. */
 void PlayerWidget::fitPausedPicture()
 {
@@ -166,12 +188,29 @@ void PlayerWidget::changeFullScreen(bool isFull)
     emit fullScreen(isFull);
     const QWindow *before = window()->windowHandle();
     const QScreen *screen = before ? before->screen() : QGuiApplication::primaryScreen();
+    if (!isFull)
+        withdraw();
     setFullScreen(isFull);
-    if (isFull) {
-        // Without a window manager it sees to this itself; its own setGeometry() would end the
-        // state.
-        windowHandle()->setGeometry(screen->geometry());
-        raise();
+    if (!isFull)
+        return;
+    // Where no window manager does it; the widget's own setGeometry() would end the state.
+    windowHandle()->setGeometry(screen->geometry());
+    raise();
+    activateWindow();
+}
+
+/** Takes the full screen off the display, so that it can become a part of the main window again. */
+void PlayerWidget::withdraw()
+{
+    // While this is still a window of its own: not every manager gives the keyboard back itself,
+    // and it is not asked to when a part of the same window has it. Another program keeps it.
+    QWidget *heir = parentWidget() ? parentWidget()->window() : nullptr;
+    if (heir && heir->windowHandle() &&
+        QGuiApplication::applicationState() == Qt::ApplicationActive) {
+        heir->activateWindow();
+        waitForKeyboard(*heir->windowHandle());
     }
-    window()->activateWindow();
+    hide();
+    if (windowHandle())
+        waitForWithdrawal(*windowHandle());
 }

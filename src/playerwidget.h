@@ -62,9 +62,13 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
+    void changeEvent(QEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
 
 private:
+    void returnToParent();
     void fitPausedPicture();
+    void withdraw();
     void keyPressInFullScreen(QKeyEvent *event);
     void changeFullScreen(bool isFull);
 

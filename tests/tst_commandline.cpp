@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Quellfern
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "commandline.h"
+#include "displaycheck.h"
 
 #include <QtTest>
 
@@ -15,6 +16,10 @@ private slots:
     void initTestCase() { QVERIFY(mDir.isValid() && QDir::setCurrent(mDir.path())); }
     void recordingNames();
     void namesThatCannotBeOpened();
+    void optionsOfQt();
+    void namesLikeOptions();
+    void displays_data();
+    void displays();
     void playerWithoutWindow_data();
     void playerWithoutWindow();
 
@@ -53,8 +58,9 @@ void TestCommandLine::recordingNames()
         const QString path = mDir.filePath(name);
         const QUrl url = QUrl::fromLocalFile(path);
         QVERIFY(QFile(name).open(QFile::WriteOnly));
-        open({name, path, QString::fromLatin1(url.toEncoded()), "file://" + path});
-        QCOMPARE(mPaths, QStringList({path, path, path, path}));
+        const QString encoded = QString::fromLatin1(url.toEncoded());
+        open({name, path, encoded, "file://" + path, "file://localhost" + encoded.mid(7)});
+        QCOMPARE(mPaths, QStringList({path, path, path, path, path}));
         QCOMPARE(mErrors, QString());
     }
 }
@@ -72,6 +78,58 @@ void TestCommandLine::namesThatCannotBeOpened()
         QVERIFY2(mErrors.contains('"' + name + '"'), qPrintable(mErrors));
 }
 
+void TestCommandLine::optionsOfQt()
+{
+    const char *const words[] = {"player",  "-platform", "--help",  "--style=fusion", "a.mp4",
+                                 "--title", "-x.mp4",    "-nograb", "b.mp4",          "-stylish"};
+    QCOMPARE(CommandLine::ownArguments(10, words),
+             QStringList({"player", "a.mp4", "b.mp4", "-stylish"}));
+}
+
+void TestCommandLine::namesLikeOptions()
+{
+    const char *const words[] = {"player", "--", "--help", "-platform", "-v.mp4", "süd.mp4"};
+    QVERIFY(!CommandLine::asksForInformation(6, words));
+    QCOMPARE(CommandLine::ownArguments(6, words).mid(2),
+             QStringList({"--help", "-platform", "-v.mp4", QString::fromUtf8("süd.mp4")}));
+    QVERIFY(QFile("-v.mp4").open(QFile::WriteOnly));
+    open({"--", "-v.mp4"});
+    QCOMPARE(mPaths, QStringList(mDir.filePath("-v.mp4")));
+}
+
+void TestCommandLine::displays_data()
+{
+    QTest::addColumn<QByteArray>("platform"); // in the environment
+    QTest::addColumn<QByteArray>("display");  // likewise
+    QTest::addColumn<QByteArray>("option");
+    QTest::addColumn<QString>("obstacle"); // contains this
+    QTest::newRow("nothing set") << QByteArray() << QByteArray() << QByteArray() << "DISPLAY";
+    QTest::newRow("no server") << QByteArray("xcb") << QByteArray(":4094") << QByteArray()
+                               << "\":4094\"";
+    QTest::newRow("neither") << QByteArray("xcb;wayland") << QByteArray() << QByteArray()
+                             << "DISPLAY";
+    QTest::newRow("in memory") << QByteArray("offscreen") << QByteArray() << QByteArray() << "";
+    QTest::newRow("or else") << QByteArray("xcb;minimal") << QByteArray() << QByteArray() << "";
+    QTest::newRow("by option") << QByteArray("xcb") << QByteArray() << QByteArray("offscreen")
+                               << "";
+    QTest::newRow("option first") << QByteArray("offscreen") << QByteArray() << QByteArray("xcb:x")
+                                  << "DISPLAY";
+}
+
+void TestCommandLine::displays()
+{
+    QFETCH(QByteArray, platform);
+    QFETCH(QByteArray, display);
+    QFETCH(QByteArray, option);
+    QFETCH(QString, obstacle);
+    qputenv("QT_QPA_PLATFORM", platform);
+    qputenv("DISPLAY", display);
+    qputenv("XDG_RUNTIME_DIR", QFile::encodeName(mDir.path())); // no Wayland there
+    const char *const words[] = {"player", "--platform", option.constData()};
+    const QString found = displayObstacle(option.isEmpty() ? 1 : 3, words);
+    QVERIFY2(obstacle.isEmpty() ? found.isEmpty() : found.contains(obstacle), qPrintable(found));
+}
+
 void TestCommandLine::playerWithoutWindow_data()
 {
     QTest::addColumn<int>("exitCode");
@@ -82,14 +140,15 @@ void TestCommandLine::playerWithoutWindow_data()
     for (const char *option : {"-v", "--version"})
         QTest::newRow(option) << 0 << QByteArray("Talvor Player V1.6 20200828");
     QTest::newRow("--nonsense") << 1 << QByteArray("nonsense");
+    QTest::newRow("a.mp4") << 1 << QByteArray("display");
 }
 
 void TestCommandLine::playerWithoutWindow()
 {
     QFETCH(int, exitCode);
     QFETCH(QByteArray, text);
-    // Information wants no display.
-    qputenv("QT_QPA_PLATFORM", exitCode == 0 ? "absent" : "offscreen");
+    qputenv("QT_QPA_PLATFORM", "xcb");
+    qunsetenv("DISPLAY");
     QProcess player;
     player.start(TALVOR_PLAYER, {QTest::currentDataTag()});
     QVERIFY(player.waitForFinished());

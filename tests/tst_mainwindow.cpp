@@ -60,6 +60,7 @@ private slots:
 
     void restoresGeometry_data();
     void restoresGeometry();
+    void confirmsGeometryOnce();
     void closingStoresGeometry();
     void maximizes_data();
     void maximizes();
@@ -120,8 +121,11 @@ void tst_MainWindow::restoresGeometry_data()
     QTest::addColumn<QRect>("expected"); // empty: as large as the screen
     QTest::newRow("on the screen") << QRect(50, 60, 1000, 700) << false << QRect(50, 60, 1000, 700);
     QTest::newRow("monitor gone") << QRect(10000, 60, 1000, 700) << false << DefaultRect;
-    QTest::newRow("centre just visible")
-        << QRect(1100, 60, 980, 700) << false << QRect(1100, 60, 980, 700);
+    QTest::newRow("partly to the right")
+        << QRect(1100, 60, 980, 700) << false << QRect(620, 60, 980, 700);
+    QTest::newRow("beyond the corner")
+        << QRect(-300, -200, 1000, 700) << false << QRect(0, 0, 1000, 700);
+    QTest::newRow("too large") << QRect(-100, 50, 2000, 1100) << false << QRect(0, 0, 1600, 1000);
     QTest::newRow("maximised") << QRect(50, 60, 1000, 700) << true << QRect();
 }
 
@@ -139,6 +143,25 @@ void tst_MainWindow::restoresGeometry()
         QTRY_COMPARE(mWindow->size(), QSize(1600, 1000));
     else
         QTRY_COMPARE(mWindow->geometry(), expected);
+}
+
+/** A window manager may make Qt believe the window to be elsewhere, but later the user moves it. */
+void tst_MainWindow::confirmsGeometryOnce()
+{
+    mWindow = std::make_unique<MainWindows>();
+    const QPoint frame(4, 24);
+    mWindow->move(DefaultRect.topLeft() + frame);
+    mWindow->show();
+    QVERIFY(QTest::qWaitForWindowActive(mWindow.get()));
+    QTRY_COMPARE(mWindow->geometry(), DefaultRect);
+
+    const QRect moved = DefaultRect.translated(-50, 60);
+    mWindow->setGeometry(moved);
+    QTRY_COMPARE(mWindow->geometry(), moved);
+    mWindow->hide();
+    mWindow->show();
+    QVERIFY(QTest::qWaitForWindowActive(mWindow.get()));
+    QCOMPARE(mWindow->geometry(), moved);
 }
 
 void tst_MainWindow::closingStoresGeometry()

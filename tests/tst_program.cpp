@@ -19,9 +19,7 @@
 #include <QLineEdit>
 #include <QMimeData>
 #include <QMouseEvent>
-#include <QProcess>
 #include <QPushButton>
-#include <QScreen>
 #include <QSignalSpy>
 #include <QSlider>
 #include <QTableView>
@@ -78,31 +76,6 @@ QString speedTextOf(int second)
     return QStringLiteral("0%1 km/h").arg(40 + second);
 }
 
-void xdotool(const QString &arguments)
-{
-    QCOMPARE(QProcess::execute(QStringLiteral("xdotool"), arguments.split(QLatin1Char(' '))), 0);
-}
-
-/** What the screen shows where the widget is, in 8 x 8 grey fields. */
-QImage fieldsOf(const QWidget *widget)
-{
-    const QRect place(widget->mapToGlobal(QPoint(0, 0)), widget->size());
-    const QPixmap pixmap = QGuiApplication::primaryScreen()->grabWindow(
-        0, place.x(), place.y(), place.width(), place.height());
-    return pixmap.toImage()
-        .scaled(8, 8, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
-        .convertToFormat(QImage::Format_Grayscale8);
-}
-
-/** How much fields differ on average, of 255. */
-int difference(const QImage &a, const QImage &b)
-{
-    int sum = 0;
-    for (int i = 0; i < 64; ++i)
-        sum += qAbs(qGray(a.pixel(i % 8, i / 8)) - qGray(b.pixel(i % 8, i / 8)));
-    return sum / 64;
-}
-
 } // namespace
 
 /** The whole program: real window, real recordings, real time. */
@@ -123,8 +96,6 @@ private slots:
     void keepsTheTrackThatCameLast();
     void keysAndSeeking();
     void rateVolumeAndMute();
-    void fullScreenAndBack();
-    void fullScreenYieldsToOtherPrograms();
     void previousAndNext();
     void slidingToTheEndSkipsNothing();
     void clickingTheVeryEndOfAPair();
@@ -398,48 +369,6 @@ void tst_Program::rateVolumeAndMute()
     click("tBtn_Mute");
     QTRY_VERIFY(!player()->isMuted());
     QVERIFY(area()->secondPlayer()->player()->isMuted());
-}
-
-void tst_Program::fullScreenAndBack()
-{
-    constexpr int alike = 8;
-    playPair();
-    pauseAt(5);
-    for (PlayerWidget *widget : {area()->mainPlayer(), area()->secondPlayer()}) {
-        const QRect place = widget->geometry();
-        const QImage fields = fieldsOf(widget);
-        QTest::mouseDClick(widget, Qt::LeftButton);
-        QTRY_COMPARE(widget->geometry(), QRect(0, 0, 1600, 1000));
-        QVERIFY(widget->isFullScreen());
-        xdotool(QStringLiteral("key Right")); // it has the keyboard
-        QTRY_COMPARE(second(), 6);
-        xdotool(QStringLiteral("key Left"));
-        QTRY_COMPARE(second(), 5);
-        QTRY_VERIFY(difference(fieldsOf(widget), fields) > alike); // less of it is black
-        xdotool(QStringLiteral("key Escape"));
-        QTRY_VERIFY(!widget->isFullScreen());
-        QTRY_COMPARE(widget->x(), place.x());
-        QTRY_COMPARE(widget->width(), place.width());
-        QTRY_VERIFY(difference(fieldsOf(widget), fields) <= alike);
-        xdotool(QStringLiteral("key Right")); // and the main window has it back
-        QTRY_COMPARE(second(), 6);
-        xdotool(QStringLiteral("key Left"));
-        QTRY_COMPARE(second(), 5);
-    }
-}
-
-void tst_Program::fullScreenYieldsToOtherPrograms()
-{
-    playPair();
-    PlayerWidget *widget = area()->mainPlayer();
-    QTest::mouseDClick(widget, Qt::LeftButton);
-    QTRY_VERIFY(widget->isFullScreen() && widget->isActiveWindow());
-    QProcess other;
-    other.start(QStringLiteral("xmessage"), {QStringLiteral("a notification")});
-    QVERIFY(other.waitForStarted());
-    QTRY_VERIFY(!widget->isFullScreen());
-    other.kill();
-    other.waitForFinished();
 }
 
 void tst_Program::previousAndNext()

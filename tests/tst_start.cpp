@@ -1,0 +1,193 @@
+// SPDX-FileCopyrightText: 2026 Quellfern
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "configuration.h"
+#include "mediafile.h"
+
+#include <QFile>
+#include <QProcess>
+#include <QRect>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <csignal>
+#include <memory>
+
+namespace {
+
+const QRect Screen(0, 0, 1600 + 1, 1000 + 1); // scaled sizes are rounded
+
+QByteArray outputOf(const char *program, const QString &arguments)
+{
+    QProcess process;
+    process.start(QLatin1String(program), arguments.split(QLatin1Char(' ')));
+    process.waitForFinished();
+    return process.readAllStandardOutput();
+}
+
+/** The windows that the window manager keeps, oldest first. */
+QList<QByteArray> managedWindows()
+{
+    const QByteArray list = outputOf("xprop", QStringLiteral("-root _NET_CLIENT_LIST"));
+    return list.contains("0x") ? list.mid(list.indexOf('#') + 1).split(',') : QList<QByteArray>();
+}
+
+/** In pixels. */
+QRect placeOf(const QByteArray &window)
+{
+    const QByteArray facts =
+        outputOf("xwininfo", QStringLiteral("-id ") + QString::fromLatin1(window.trimmed()));
+    const auto number = [&facts](const QByteArray &name) {
+        const int start = facts.indexOf(name) + name.size();
+        return facts.mid(start, facts.indexOf('\n', start) - start).trimmed().toInt();
+    };
+    return {number("Absolute upper-left X:"), number("Absolute upper-left Y:"), number("Width:"),
+            number("Height:")};
+}
+
+} // namespace
+
+/** The program itself, started as a user or a desktop does, in a home that is new. */
+class tst_Start : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+
+    void firstStart();
+    void endsByRequest_data();
+    void endsByRequest();
+    void opensOnTheScreen_data();
+    void opensOnTheScreen();
+
+private:
+    void start(const QProcessEnvironment &additions = {});
+    int end(int request);
+    QVariant stored(const char *key) const;
+
+    QTemporaryDir mFolder;
+    std::unique_ptr<QTemporaryDir> mHome;
+    std::unique_ptr<QProcess> mPlayer;
+    QByteArray mErrors;
+};
+
+void tst_Start::initTestCase()
+{
+    QVERIFY(makeMediaFile(mFolder.filePath(QStringLiteral("one.mp4")), 20));
+}
+
+void tst_Start::init()
+{
+    mHome = std::make_unique<QTemporaryDir>();
+    mPlayer = std::make_unique<QProcess>();
+    mErrors.clear();
+}
+
+void tst_Start::cleanup()
+{
+    mPlayer->kill();
+    mPlayer->waitForFinished();
+    QTRY_VERIFY(managedWindows().isEmpty());
+}
+
+/** With a recording, which plays. */
+void tst_Start::start(const QProcessEnvironment &additions)
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const char *variable : {"HOME", "XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME"})
+        environment.insert(QLatin1String(variable), mHome->path());
+    environment.remove(QStringLiteral("LC_ALL"));
+    environment.insert(QStringLiteral("LANG"), QStringLiteral("de_DE.UTF-8"));
+    environment.insert(additions);
+    mPlayer->setProcessEnvironment(environment);
+    mPlayer->start(QStringLiteral(TALVOR_PLAYER), {mFolder.filePath(QStringLiteral("one.mp4"))});
+    QTRY_VERIFY_WITH_TIMEOUT(
+        (mErrors += mPlayer->readAllStandardError()).contains("onPositionChanged"), 20000);
+}
+
+/** Returns what the program ends with; -1 when it does not end by itself. */
+int tst_Start::end(int request)
+{
+    ::kill(pid_t(mPlayer->processId()), request);
+    const bool isOver = mPlayer->waitForFinished(10000);
+    return isOver && mPlayer->exitStatus() == QProcess::NormalExit ? mPlayer->exitCode() : -1;
+}
+
+QVariant tst_Start::stored(const char *key) const
+{
+    const QSettings file(
+        mHome->filePath(QStringLiteral("Quellfern/Talvor Player V1.6 20200828/configuration.ini")),
+        QSettings::IniFormat);
+    return file.value(QLatin1String(key));
+}
+
+void tst_Start::firstStart()
+{
+    start();
+    QCOMPARE(placeOf(managedWindows().value(0)), QRect(483, 166, 921, 628));
+    QCOMPARE(stored("language").toInt(), int(German));
+    QCOMPARE(end(SIGTERM), 0);
+}
+
+void tst_Start::endsByRequest_data()
+{
+    QTest::addColumn<int>("request");
+    QTest::addColumn<QString>("before"); // this input opens another window
+    QTest::newRow("SIGTERM") << SIGTERM << "";
+    QTest::newRow("SIGINT, settings open") << SIGINT << "mousemove 1301 186 click 1";
+    QTest::newRow("SIGHUP, full screen")
+        << SIGHUP << "mousemove 700 300 click --repeat 2 --delay 40 1";
+}
+
+void tst_Start::endsByRequest()
+{
+    QFETCH(const int, request);
+    QFETCH(const QString, before);
+    start();
+    const int windows = managedWindows().size();
+    if (!before.isEmpty()) {
+        outputOf("xdotool", before);
+        QTRY_COMPARE(managedWindows().size(), windows + 1);
+    }
+    QCOMPARE(end(request), 0);
+    QCOMPARE(stored("mainwindowsRect").toRect(), QRect(483, 166, 921, 628));
+}
+
+void tst_Start::opensOnTheScreen_data()
+{
+    QTest::addColumn<QString>("factor");
+    QTest::addColumn<int>("dotsPerInch"); // of 96 when all is as large as its pixels
+    QTest::addColumn<double>("scale");
+    QTest::newRow("factor 1.5") << "1.5" << 0 << 1.5;
+    QTest::newRow("144 dots per inch") << "" << 144 << 1.5;
+    QTest::newRow("192 dots per inch") << "" << 192 << 2.0;
+}
+
+void tst_Start::opensOnTheScreen()
+{
+    QFETCH(const QString, factor);
+    QFETCH(const int, dotsPerInch);
+    QFETCH(const double, scale);
+    QProcessEnvironment environment;
+    if (!factor.isEmpty())
+        environment.insert(QStringLiteral("QT_SCALE_FACTOR"), factor);
+    if (dotsPerInch > 0) {
+        QProcess::execute(QStringLiteral("xprop"),
+                          {"-root", "-f", "RESOURCE_MANAGER", "8s", "-set", "RESOURCE_MANAGER",
+                           QStringLiteral("Xft.dpi:\t%1\n").arg(dotsPerInch)});
+    }
+    start(environment);
+    outputOf("xprop", QStringLiteral("-root -remove RESOURCE_MANAGER"));
+    const QRect place = placeOf(managedWindows().value(0));
+    QVERIFY2(Screen.contains(place), QTest::toString(place));
+    const QSize size = QSize(921, 628).boundedTo(QSize(1600, 1000) / scale) * scale;
+    QVERIFY2(qAbs(place.width() - size.width()) <= 2 && qAbs(place.height() - size.height()) <= 2,
+             QTest::toString(place));
+    QCOMPARE(end(SIGTERM), 0);
+}
+
+QTEST_GUILESS_MAIN(tst_Start)
+#include "tst_start.moc"
