@@ -5,11 +5,11 @@
 #include "appname.h"
 #include "gpsuser.h"
 #include "mappage.h"
+#include "overlaywindow.h"
 
-#include <QApplication>
+#include <QColor>
 #include <QCoreApplication>
 #include <QDebug>
-#include <QDesktopWidget>
 #include <QDir>
 #include <QEvent>
 #include <QLockFile>
@@ -18,7 +18,6 @@
 #include <QUrl>
 #include <QWebEngineProfile>
 #include <QWebEngineView>
-#include <QWindow>
 
 #include <iterator>
 #include <utility>
@@ -31,6 +30,8 @@ constexpr int PageStateMs = 20;
 constexpr int EventSliceMs = 100;
 constexpr int CallsPerTurn = 5000; // of a long track, between two turns of the event loop
 constexpr int TileCacheBytes = 100 * 1024 * 1024;
+
+constexpr QRgb MapBackground = qRgb(37, 37, 40); // that of the pages, which paint it too late
 
 const char GooglePagePrefix[] = "WG_";
 
@@ -112,9 +113,7 @@ MapWebView::~MapWebView()
 
 void MapWebView::updatePosition()
 {
-    webView->setGeometry(
-        QRect(mapToGlobal(QPoint(0, 0)), mapToGlobal(QPoint(width() - 1, height() - 1))));
-    showWebView();
+    mOverlay->cover();
 }
 
 void MapWebView::dropTrack()
@@ -137,9 +136,9 @@ bool MapWebView::eventFilter(QObject *watched, QEvent *event)
         if (event->type() == QEvent::Move || event->type() == QEvent::Resize)
             updatePosition();
         else if (isOwn && event->type() == QEvent::Show)
-            showWebView();
+            mOverlay->show();
         else if (isOwn && event->type() == QEvent::Hide)
-            webView->hide();
+            mOverlay->hide();
     }
     return QWidget::eventFilter(watched, event);
 }
@@ -185,7 +184,7 @@ void MapWebView::setWebViewVisible(bool visible)
     if (visible)
         updatePosition();
     else
-        webView->setGeometry(0, QApplication::desktop()->geometry().height(), 1, 1);
+        mOverlay->park();
 }
 
 void MapWebView::loadAllGpsData(QVector<QVector<double>> allGpsData)
@@ -224,11 +223,10 @@ void MapWebView::setupWebView()
     keepTilesOnDisk(profile);
     profile->setHttpUserAgent(userAgent());
     webView->setPage(new MapPage(profile, webView));
+    webView->page()->setBackgroundColor(MapBackground);
     connect(webView->page(), &MapPage::loadFinished, this, &MapWebView::onLoadFinished);
 
-    webView->setWindowFlags(Qt::Tool | Qt::FramelessWindowHint);
-    webView->setAttribute(Qt::WA_MacAlwaysShowToolWindow);
-    webView->setAttribute(Qt::WA_ShowWithoutActivating);
+    mOverlay = new OverlayWindow(webView, this, this);
     webView->setContextMenuPolicy(Qt::NoContextMenu);
     webView->setAcceptDrops(false);
 }
@@ -244,23 +242,6 @@ void MapWebView::keepTilesOnDisk(QWebEngineProfile *profile)
         profile->setHttpCacheMaximumSize(TileCacheBytes);
     else
         profile->setHttpCacheType(QWebEngineProfile::MemoryHttpCache);
-}
-
-/** Only behind the main window: a window manager that hears of the web view first puts it below. */
-void MapWebView::showWebView()
-{
-    if (!isVisible())
-        return;
-    if (!window()->windowHandle()->isVisible()) {
-        QTimer::singleShot(0, this, &MapWebView::showWebView);
-        return;
-    }
-    if (!webView->windowHandle()) {
-        // The window system never gives it the keyboard, which the main window's shortcuts need.
-        webView->winId();
-        webView->windowHandle()->setFlag(Qt::WindowDoesNotAcceptFocus);
-    }
-    webView->show();
 }
 
 void MapWebView::loadPage(const QString &fileName)

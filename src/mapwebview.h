@@ -11,6 +11,7 @@
 
 #include <memory>
 
+class OverlayWindow;
 class QLockFile;
 class QWebEngineProfile;
 class QWebEngineView;
@@ -70,7 +71,6 @@ protected:
 
 private:
     void setupWebView();
-    void showWebView();
     void loadPage(const QString &fileName);
     void onLoadFinished();
     void askPage(int page);
@@ -85,6 +85,8 @@ private:
     bool wheelZoomValid = true;
     QWidget *topWindow = nullptr; ///< the window that this widget lies in, may be null
     bool allDataLoaded = false;   ///< a track was offered, whether or not the page took it
+
+    OverlayWindow *mOverlay = nullptr;
 
     bool mIsPageLoaded = false;  // or will never be: then calls fail in silence
     bool mIsOverlapping = false; // the page was asked for before the one before it had loaded

@@ -9,6 +9,7 @@
 #include <QDialog>
 #include <QKeyEvent>
 #include <QProcess>
+#include <QScreen>
 #include <QtTest>
 #include <QVBoxLayout>
 #include <QWebEnginePage>
@@ -42,6 +43,13 @@ protected:
     void closeEvent(QCloseEvent *event) override { event->accept(); }
 };
 
+QElapsedTimer startedTimer()
+{
+    QElapsedTimer timer;
+    timer.start();
+    return timer;
+}
+
 QString outputOf(const QString &program, const QStringList &arguments)
 {
     QProcess process;
@@ -49,6 +57,18 @@ QString outputOf(const QString &program, const QStringList &arguments)
     if (!process.waitForFinished(10000) || process.exitCode() != 0)
         qWarning() << program << arguments << process.errorString();
     return QString::fromLocal8Bit(process.readAllStandardOutput());
+}
+
+bool isOnScreen(const QWidget *window)
+{
+    return outputOf("xwininfo", {"-id", QString::number(window->winId())}).contains("IsViewable");
+}
+
+/** Clicks and types as a user. */
+void useMouseAt(QPoint place, const QStringList &commands)
+{
+    const QStringList move{"mousemove", QString::number(place.x()), QString::number(place.y())};
+    outputOf("xdotool", move + commands);
 }
 
 void setLanguage(int language)
@@ -74,6 +94,11 @@ private slots:
     void callsWaitForThePage();
     void callsWaitForTheLastOfTwoPages();
     void followsItsPlace();
+    void keepsToTheScreen_data();
+    void keepsToTheScreen();
+    void comesBackWithItsWindow();
+    void bringsItsWindowToTheFront();
+    void neverFlashes();
     void leavesKeyboardAndProgramAlone();
 
 private:
@@ -275,14 +300,6 @@ void TestMapWebView::followsItsPlace()
     QTRY_VERIFY(mMap->width() < 1000);
     QTRY_COMPARE(mView->geometry(), place());
 
-    const QStringList ofView{"-id", QString::number(mView->winId())};
-    QVERIFY(outputOf("xwininfo", ofView).contains("IsViewable"));
-    mWindow->showMinimized();
-    QTRY_VERIFY(!outputOf("xwininfo", ofView).contains("IsViewable"));
-    mWindow->showNormal();
-    QTRY_VERIFY(outputOf("xwininfo", ofView).contains("IsViewable"));
-    QTRY_COMPARE(mView->geometry(), place());
-
     mMap->setWebViewVisible(false);
     QCOMPARE(mView->geometry(), QRect(0, QApplication::desktop()->height(), 1, 1));
     QVERIFY(mView->isVisible());
@@ -294,15 +311,112 @@ void TestMapWebView::followsItsPlace()
     QTRY_VERIFY(mView->isVisible());
 }
 
+void TestMapWebView::keepsToTheScreen_data()
+{
+    QTest::addColumn<QPoint>("offset"); // of the place's corner from the screen's
+    QTest::newRow("out at the left") << QPoint(-200, 300);
+    QTest::newRow("out at the right") << QPoint(1500, 300);
+    QTest::newRow("out at the bottom") << QPoint(300, 900);
+    QTest::newRow("hardly in at the left") << QPoint(-293, 300);
+    QTest::newRow("hardly in at the bottom") << QPoint(300, 988);
+    QTest::newRow("on no screen") << QPoint(1601, 300);
+}
+
+/** Window managers would push what is nearly out of sight back into it. */
+void TestMapWebView::keepsToTheScreen()
+{
+    QFETCH(QPoint, offset);
+    const QRect screen = QGuiApplication::primaryScreen()->geometry();
+    QCOMPARE(screen, QRect(0, 0, 1600, 1000));
+    mMap->setFixedSize(300, 250);
+    mWindow->layout()->setContentsMargins(300, 20, 300, 20); // what stays in sight
+    mWindow->setGeometry(100, 120, 900, 290);
+    mWindow->show();
+    QTRY_COMPARE(mView->geometry(), place());
+    const QRect wanted = QRect(offset, mMap->size()) & screen;
+
+    mWindow->move(mWindow->pos() + offset - place().topLeft());
+    QTRY_COMPARE(place().topLeft(), offset);
+    if (wanted.width() < 20 || wanted.height() < 20) {
+        QTRY_VERIFY(!mView->isVisible());
+    } else {
+        QTRY_COMPARE(mView->geometry(), wanted);
+        QVERIFY(mView->isVisible());
+    }
+    mWindow->move(100, 120);
+    QTRY_VERIFY(mView->isVisible());
+    QTRY_COMPARE(mView->geometry(), place());
+}
+
+/** The window manager minimises and restores both together. */
+void TestMapWebView::comesBackWithItsWindow()
+{
+    mWindow->setGeometry(100, 120, 320, 280);
+    mWindow->show();
+    QTRY_VERIFY(isOnScreen(mView));
+    const QString window = QString::number(mWindow->winId());
+    for (int i = 0; i < 4; ++i) {
+        outputOf("xdotool", {"windowminimize", window});
+        QTRY_VERIFY(!isOnScreen(mWindow.get()) && !isOnScreen(mView));
+        outputOf("xdotool", {"windowmap", window});
+        QTRY_VERIFY(isOnScreen(mWindow.get()) && isOnScreen(mView));
+        QTRY_COMPARE(mView->geometry(), place());
+    }
+}
+
+void TestMapWebView::bringsItsWindowToTheFront()
+{
+    mWindow->setGeometry(100, 120, 320, 280);
+    mWindow->show();
+    QVERIFY(QTest::qWaitForWindowActive(mWindow.get()));
+    QTRY_VERIFY(isOnScreen(mView));
+    QWidget cover;
+    cover.setGeometry(mWindow->geometry().translated(0, 150));
+    cover.show();
+    QVERIFY(QTest::qWaitForWindowActive(&cover));
+    const auto stacking = [] { return outputOf("xprop", {"-root", "_NET_CLIENT_LIST_STACKING"}); };
+    const auto isAbove = [&stacking](const QWidget &upper, const QWidget &lower) {
+        const QString ids = stacking();
+        const auto at = [&ids](WId id) { return ids.indexOf(QString::number(id, 16)); };
+        return at(upper.winId()) > at(lower.winId());
+    };
+    QTRY_VERIFY(isAbove(cover, *mView) && isAbove(*mView, *mWindow));
+
+    useMouseAt(place().topLeft() + QPoint(100, 20), {"click", "1"});
+    QTRY_VERIFY(isAbove(*mView, *mWindow) && isAbove(*mWindow, cover));
+    QVERIFY(QTest::qWaitForWindowActive(mWindow.get()));
+}
+
+/** The page is dark, and so is what can be seen before there is a page. */
+void TestMapWebView::neverFlashes()
+{
+    mWindow->setStyleSheet("background: black");
+    mWindow->setGeometry(100, 120, 320, 280);
+    mWindow->show();
+    QTRY_COMPARE(mView->geometry(), place());
+    const QRect middle(place().center(), QSize(1, 1));
+    QSet<QRgb> colours;
+    for (int page = 0; page < 2; ++page) {
+        for (QElapsedTimer shown = startedTimer(); shown.elapsed() < 1000;) {
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
+            const QPixmap grab =
+                QGuiApplication::primaryScreen()->grabWindow(0, middle.x(), middle.y(), 1, 1);
+            colours.insert(grab.toImage().pixel(0, 0));
+        }
+        mMap->setMapType(MapGoogle);
+    }
+    for (const QRgb colour : colours)
+        QVERIFY2(qGray(colour) < 128, qPrintable(QColor(colour).name()));
+    QVERIFY(colours.contains(qRgb(37, 37, 40)));
+}
+
 void TestMapWebView::leavesKeyboardAndProgramAlone()
 {
     mWindow->setGeometry(100, 120, 320, 280);
     mWindow->show();
     QVERIFY(QTest::qWaitForWindowActive(mWindow.get()));
     QTRY_VERIFY(mView->isVisible());
-    const QPoint middle = place().center();
-    outputOf("xdotool", {"mousemove", QString::number(middle.x()), QString::number(middle.y()),
-                         "click", "1", "key", "space"});
+    useMouseAt(place().center(), {"click", "1", "key", "space"});
     QTRY_COMPARE(mWindow->spaces, 1);
 
     QTimer::singleShot(0, mWindow.get(), &QWidget::close);
