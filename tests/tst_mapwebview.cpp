@@ -1,19 +1,27 @@
 // SPDX-FileCopyrightText: 2026 Quellfern
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "appname.h"
 #include "configuration.h"
 #include "gpsuser.h"
 #include "mapwebview.h"
 
 #include <QCloseEvent>
+#include <QDesktopServices>
 #include <QDesktopWidget>
 #include <QDialog>
 #include <QKeyEvent>
+#include <QMimeData>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QScreen>
+#include <QTcpServer>
+#include <QTcpSocket>
 #include <QtTest>
 #include <QVBoxLayout>
 #include <QWebEnginePage>
+#include <QWebEngineProfile>
 #include <QWebEngineView>
+#include <QWindow>
 
 namespace {
 
@@ -91,6 +99,8 @@ private slots:
     void callTexts();
     void tracksAndProviders();
     void pageChangesUnderATrack();
+    void longTracksLetOthersBefore();
+    void comesBackWhenThePageDies();
     void callsWaitForThePage();
     void callsWaitForTheLastOfTwoPages();
     void followsItsPlace();
@@ -100,13 +110,20 @@ private slots:
     void bringsItsWindowToTheFront();
     void neverFlashes();
     void leavesKeyboardAndProgramAlone();
+    void tellsServersWhoAsks();
+    void oneProgramHasTheCache();
+    void opensLinksInTheBrowser();
+    void offersNothingOfABrowser();
+    void openInBrowser(const QUrl &url) { mOpened.append(url.toString()); }
 
 private:
     QRect place() const;
     QString stateOf(const QString &expression);
+    void waitForPage();
 
     std::unique_ptr<Window> mWindow;
     ListeningMap *mMap = nullptr;
+    QStringList mOpened;
     QWebEngineView *mView = nullptr;
 };
 
@@ -144,6 +161,13 @@ QString TestMapWebView::stateOf(const QString &expression)
     });
     QTestEventLoop::instance().enterLoop(5); // QTest::qWait() starves the web engine
     return *answer;
+}
+
+/** Until it shows a map. */
+void TestMapWebView::waitForPage()
+{
+    QTRY_COMPARE(stateOf("String(window.talvorMap && talvorMap.state().frames > 0)"),
+                 QString("true"));
 }
 
 void TestMapWebView::pages_data()
@@ -244,6 +268,69 @@ void TestMapWebView::pageChangesUnderATrack()
              QString("loadAllGpsDataOfVideo(11.500000, 48.250000, 0, 6000)"));
 }
 
+/** While a long track is sent, the page is only little behind, so that live points come at once. */
+void TestMapWebView::longTracksLetOthersBefore()
+{
+    constexpr int count = 20000;
+    mWindow->show();
+    QTRY_COMPARE(
+        stateOf("loadAllGpsDataOfVideo = () => { window.n = (window.n || 0) + 1; }; 'set'"),
+        QString("set"));
+    mMap->calls.clear();
+    int received = 0;
+    int furthestBehind = 0;
+    int turns = 0;
+    QTimer probe; // one question at a time, which waits behind the calls like a live point
+    connect(&probe, &QTimer::timeout, mMap, [&] {
+        probe.stop();
+        turns += !mMap->calls.isEmpty() && mMap->calls.size() < count;
+        const int sent = mMap->calls.size();
+        mView->page()->runJavaScript("window.n || 0", [&, sent](const QVariant &n) {
+            received = n.toInt();
+            furthestBehind = qMax(furthestBehind, mMap->calls.size() - sent);
+            if (received < count)
+                probe.start(1);
+        });
+    });
+    probe.start(1);
+    mMap->loadAllGpsData(QVector<QVector<double>>(count, {11.5, 48.25}));
+    QTRY_COMPARE(received, count);
+    QCOMPARE(mMap->calls.size(), count);
+    QVERIFY(turns > 10);
+    QVERIFY2(furthestBehind < count / 5, qPrintable(QString::number(furthestBehind)));
+}
+
+void TestMapWebView::comesBackWhenThePageDies()
+{
+    const QVector<QVector<double>> track{{11.5, 48.25}, {11.5001, 48.2501}};
+    const QString lastCall = "loadAllGpsDataOfVideo(11.500100, 48.250100, 1, 2)";
+    const QUrl death("chrome://crash/");
+    mWindow->resize(320, 280);
+    mWindow->show();
+    mMap->loadAllGpsData(track);
+    mMap->setUserData(GPS_USER_DATA_ID, new GPSUser(3, track));
+    int died = 0;
+    connect(mView->page(), &QWebEnginePage::renderProcessTerminated, mMap, [&died] { ++died; });
+    for (int deaths = 1; deaths <= 3; ++deaths) {
+        mMap->calls.clear();
+        mView->page()->load(death);
+        QTRY_COMPARE_WITH_TIMEOUT(mMap->calls.value(mMap->calls.size() - 1), lastCall, 10000);
+        mMap->addPoint({deaths, 11.6, 48.2});
+        QTRY_COMPARE(stateOf("JSON.stringify(talvorMap.state().position)"), QString("[11.6,48.2]"));
+        QCOMPARE(stateOf("String(talvorMap.state().routePoints)"), QString("2"));
+        QCOMPARE(died, deaths);
+    }
+    mView->page()->load(death); // that is enough
+    QTRY_COMPARE(died, 4);
+    mMap->calls.clear();
+    QTestEventLoop::instance().enterLoopMSecs(100);
+    QCOMPARE(mView->page()->requestedUrl(), death);
+    QCOMPARE(mMap->calls, QStringList());
+
+    mMap->setMapType(MapOpenStreetMap);
+    QTRY_COMPARE(stateOf("String(talvorMap.state().routePoints)"), QString("2"));
+}
+
 void TestMapWebView::callsWaitForThePage()
 {
     mWindow->resize(320, 280);
@@ -332,13 +419,17 @@ void TestMapWebView::keepsToTheScreen()
     mWindow->layout()->setContentsMargins(300, 20, 300, 20); // what stays in sight
     mWindow->setGeometry(100, 120, 900, 290);
     mWindow->show();
-    QTRY_COMPARE(mView->geometry(), place());
+    QTRY_VERIFY(isOnScreen(mView));
+    QCOMPARE(mView->geometry(), place());
     const QRect wanted = QRect(offset, mMap->size()) & screen;
 
     mWindow->move(mWindow->pos() + offset - place().topLeft());
     QTRY_COMPARE(place().topLeft(), offset);
     if (wanted.width() < 20 || wanted.height() < 20) {
         QTRY_VERIFY(!mView->isVisible());
+        mMap->hide();
+        mMap->show();
+        QVERIFY(!mView->isVisible());
     } else {
         QTRY_COMPARE(mView->geometry(), wanted);
         QVERIFY(mView->isVisible());
@@ -418,11 +509,97 @@ void TestMapWebView::leavesKeyboardAndProgramAlone()
     QTRY_VERIFY(mView->isVisible());
     useMouseAt(place().center(), {"click", "1", "key", "space"});
     QTRY_COMPARE(mWindow->spaces, 1);
+    outputOf("xdotool", {"windowactivate", QString::number(mView->winId()), "key", "space"});
+    QTRY_COMPARE(mWindow->spaces, 2);
 
     QTimer::singleShot(0, mWindow.get(), &QWidget::close);
     QTimer::singleShot(5000, this, [] { QCoreApplication::exit(1); });
     QCOMPARE(QCoreApplication::exec(), 0); // ended by the last window
     QVERIFY(!mView->isVisible());
+}
+
+void TestMapWebView::tellsServersWhoAsks()
+{
+    setLanguage(German);
+    mMap->setMapType(MapOpenStreetMap);
+    QTRY_COMPARE(stateOf("document.documentElement.lang"), QString("de"));
+
+    QTcpServer server;
+    QVERIFY(server.listen(QHostAddress::LocalHost));
+    stateOf(QString("new Image().src = 'http://127.0.0.1:%1/'").arg(server.serverPort()));
+    QTRY_VERIFY(server.hasPendingConnections());
+    QTcpSocket *socket = server.nextPendingConnection();
+    QByteArray request;
+    QTRY_VERIFY((request += socket->readAll()).contains("\r\n\r\n"));
+    const QString text = QString::fromLatin1(request);
+    const auto header = [&text](const QString &name) {
+        const QRegularExpression line(name + ": ([^\r]*)\r\n");
+        return line.match(text).captured(1);
+    };
+    QVERIFY2(header("Accept-Language").startsWith("de"), request.constData());
+    const QString agent = header("User-Agent");
+    QVERIFY2(agent.startsWith(QString("TalvorPlayer/%1 (").arg(APP_VERSION)), qPrintable(agent));
+    QVERIFY(agent.contains('@') && !agent.contains("Mozilla") && !agent.contains("Chrome"));
+}
+
+void TestMapWebView::oneProgramHasTheCache()
+{
+    const auto cacheOf = [](const QWebEngineView *view) {
+        return view->page()->profile()->httpCacheType();
+    };
+    QCOMPARE(cacheOf(mView), QWebEngineProfile::DiskHttpCache);
+    Configuration::GetInstance()->setMaps(MapGoogle);
+    const auto other = std::make_unique<MapWebView>();
+    QCOMPARE(cacheOf(other->findChild<QWebEngineView *>()), QWebEngineProfile::MemoryHttpCache);
+    mWindow.reset();
+    const MapWebView third; // after the first has ended
+    QCOMPARE(cacheOf(third.findChild<QWebEngineView *>()), QWebEngineProfile::DiskHttpCache);
+}
+
+void TestMapWebView::opensLinksInTheBrowser()
+{
+    mWindow->setGeometry(100, 120, 320, 280);
+    mWindow->show();
+    QTRY_VERIFY(isOnScreen(mView));
+    waitForPage();
+    QDesktopServices::setUrlHandler("https", this, "openInBrowser");
+    const QUrl page = mView->page()->url();
+    const QString middleOfLink =
+        stateOf("const r = document.querySelector('.leaflet-control-attribution a')"
+                "    .getBoundingClientRect();"
+                "[(r.left + r.right) / 2, (r.top + r.bottom) / 2].map(Math.round).join()");
+    const QStringList offset = middleOfLink.split(',');
+    useMouseAt(place().topLeft() + QPoint(offset.value(0).toInt(), offset.value(1).toInt()),
+               {"click", "1"});
+    QTRY_COMPARE(mOpened, QStringList("https://www.openstreetmap.org/copyright"));
+    stateOf("const a = document.createElement('a'); a.href = 'https://example.org/b';"
+            "document.body.append(a); a.click(); 1");
+    QTRY_COMPARE(mOpened.size(), 2);
+    stateOf("a.href = 'file:///etc/hostname'; a.click(); 1");
+    stateOf("a.href = 'https://example.org/c'; a.click(); 1");
+    QTRY_COMPARE(mOpened.mid(1), (QStringList{"https://example.org/b", "https://example.org/c"}));
+    QCOMPARE(mView->page()->url(), page);
+    QDesktopServices::unsetUrlHandler("https");
+}
+
+/** No menu with what a browser can do, and no place to drop a file that would replace the map. */
+void TestMapWebView::offersNothingOfABrowser()
+{
+    mWindow->setGeometry(100, 120, 320, 280);
+    mWindow->show();
+    QTRY_VERIFY(isOnScreen(mView));
+    waitForPage();
+    stateOf("window.addEventListener('contextmenu', () => { window.isAsked = true; }); 1");
+    useMouseAt(place().center(), {"click", "3"});
+    QTRY_COMPARE(stateOf("String(window.isAsked)"), QString("true"));
+    stateOf("1"); // so that what the web engine tells the program has arrived
+    QVERIFY(!QApplication::activePopupWidget());
+
+    QMimeData file;
+    file.setUrls({QUrl::fromLocalFile("/etc/hostname")});
+    QDragEnterEvent enter(QPoint(100, 100), Qt::CopyAction, &file, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(mView->windowHandle(), &enter);
+    QVERIFY(!enter.isAccepted());
 }
 
 QTEST_MAIN(TestMapWebView)
