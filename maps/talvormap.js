@@ -103,7 +103,7 @@ window.talvorMap = (() => {
             keyHint: 'La clé s’inscrit dans le fichier keys.js du dossier maps du programme.',
             filesMissing: 'Impossible d’afficher la carte\u00a0: des fichiers du programme sont '
                 + 'manquants.',
-            tilesMissing: 'Les images de la carte ne peuvent pas être chargées pour le moment.',
+            tilesMissing: 'Les images de la carte sont indisponibles.',
             zoomIn: 'Zoom avant',
             zoomOut: 'Zoom arrière',
         },
@@ -114,7 +114,7 @@ window.talvorMap = (() => {
                 + 'supporta più questo programma.',
             keyHint: 'La chiave va inserita nel file keys.js nella cartella maps del programma.',
             filesMissing: 'Impossibile mostrare la mappa: mancano alcuni file del programma.',
-            tilesMissing: 'Al momento non è possibile caricare le immagini della mappa.',
+            tilesMissing: 'Le immagini della mappa non sono disponibili.',
             zoomIn: 'Ingrandisci',
             zoomOut: 'Riduci',
         },
@@ -176,7 +176,7 @@ window.talvorMap = (() => {
             keyHint: 'La clave se introduce en el archivo keys.js de la carpeta maps del '
                 + 'programa.',
             filesMissing: 'No se puede mostrar el mapa: faltan archivos del programa.',
-            tilesMissing: 'En este momento no se pueden cargar las imágenes del mapa.',
+            tilesMissing: 'Las imágenes del mapa no están disponibles.',
             zoomIn: 'Acercar',
             zoomOut: 'Alejar',
         },
@@ -188,7 +188,7 @@ window.talvorMap = (() => {
             keyHint: 'A chave deve ser introduzida no ficheiro keys.js da pasta maps do '
                 + 'programa.',
             filesMissing: 'Não é possível mostrar o mapa: faltam ficheiros do programa.',
-            tilesMissing: 'De momento, não é possível carregar as imagens do mapa.',
+            tilesMissing: 'As imagens do mapa não estão disponíveis.',
             zoomIn: 'Ampliar',
             zoomOut: 'Reduzir',
         },
