@@ -3,6 +3,7 @@
 #include "computeinfo.h"
 #include "configuration.h"
 #include "mainwindows.h"
+#include "mapwebview.h"
 #include "playlistmodel.h"
 #include "recordingwriter.h"
 #include "speedtray.h"
@@ -19,6 +20,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <QWebEnginePage>
+#include <QWebEngineView>
 
 #include <memory>
 
@@ -221,7 +224,11 @@ void tst_MainWindow::changingTheLanguage()
     open();
     mWindow->setTitleFileName(QStringLiteral("MOVA0001.MP4"));
     QTest::mouseClick(child("pBtn_Maximize"), Qt::LeftButton);
+    Configuration::GetInstance()->setMaps(MapGoogle);
     Configuration::GetInstance()->setLanguage(EnglishUK);
+    const QUrl map =
+        child<MapWebView>("wgt_MapView")->findChild<QWebEngineView *>()->page()->requestedUrl();
+    QCOMPARE(map.fileName(), QStringLiteral("WG_GoogleMapIndex_en_uk.html"));
     mWindow->resize(1500, 900);
     QCOMPARE(mWindow->windowTitle(), Title);
     QCOMPARE(child<QLabel>("lbl_Title")->text(), Title);
