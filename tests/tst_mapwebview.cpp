@@ -551,7 +551,8 @@ void TestMapWebView::opensLinksInTheBrowser()
     mWindow->show();
     QTRY_VERIFY(isOnScreen(mView));
     waitForPage();
-    QDesktopServices::setUrlHandler("https", this, "openInBrowser");
+    for (const char *scheme : {"https", "file"})
+        QDesktopServices::setUrlHandler(scheme, this, "openInBrowser");
     const QUrl page = mView->page()->url();
     const QString middleOfLink =
         stateOf("const r = document.querySelector('.leaflet-control-attribution a')"
@@ -568,7 +569,8 @@ void TestMapWebView::opensLinksInTheBrowser()
     stateOf("a.href = 'https://example.org/c'; a.click(); 1");
     QTRY_COMPARE(mOpened.mid(1), (QStringList{"https://example.org/b", "https://example.org/c"}));
     QCOMPARE(mView->page()->url(), page);
-    QDesktopServices::unsetUrlHandler("https");
+    for (const char *scheme : {"https", "file"})
+        QDesktopServices::unsetUrlHandler(scheme);
 }
 
 /** No menu with what a browser can do, and no place to drop a file that would replace the map. */
