@@ -289,7 +289,9 @@ void tst_MapPages::keepsTheRouteFitted_data()
     QTest::newRow("") << false;
     QTest::newRow("send('pointerdown', {}); send('pointermove', {}); send('pointerup', {});")
         << false; // a click
-    QTest::newRow("send('pointermove', {clientX: 90})") << false;
+    QTest::newRow("send('pointerdown', {}); send('pointerup', {});"
+                  "send('pointermove', {clientX: 90})")
+        << false;
     QTest::newRow("send('wheel', {deltaY: 1})") << true;
     QTest::newRow("send('dblclick', {})") << true;
     QTest::newRow("send('pointerdown', {}); send('pointermove', {buttons: 1, clientX: 20})")
@@ -338,9 +340,10 @@ void tst_MapPages::whatTheFitShows_data()
     QTest::newRow("track.fill([0, 0], 0, 5); track[5] = [12.3, 48]; /* rows after an outage */"
                   "track = track.map((p, i) => i < 20 ? p : [13.4, 52.5])")
         << QVariantList{at(6).x(), at(6).y(), 13.4, 52.5};
-    QTest::newRow("track.fill([0, 0], 10, 30); track = track.map((p, i) => i < 30 ? p : "
-                  "[12.44, 47.97]) /* 15 km in a tunnel */")
-        << QVariantList{at(0).x(), 47.97, 12.44, at(9).y()};
+    QTest::newRow("track.fill([0, 0], 25, 39); track[39] = [12.37, 47.97] /* out of a tunnel */")
+        << QVariantList{at(0).x(), 47.97, 12.37, at(24).y()};
+    QTest::newRow("track = track.map((p, i) => i % 4 === 3 ? [170 - 5 * i, i - 60] : p)")
+        << QVariantList{at(0).x(), at(0).y(), at(38).x(), at(38).y()};
     QTest::newRow("track = track.map((p, i) => [179.9981 + i / 1e4 - 360 * (i >= 20), -17])")
         << QVariantList{179.9981, -17, 180.002, -17};
     QTest::newRow("track = track.map((p, i) => [-179.9981 - i / 1e4 + 360 * (i >= 20), -17]);"
