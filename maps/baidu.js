@@ -34,7 +34,7 @@
 
     talvorMap.use({
         key: 'baidu',
-        name: 'Baidu Maps',
+        controls: '.BMap_stdMpCtrl',
         scriptUrl: (key) => 'https://api.map.baidu.com/api?v=3.0'
             + `&callback=talvorMap.providerReady&ak=${key}`,
         create(element) {
@@ -45,7 +45,10 @@
             map.addControl(new BMap.ScaleControl());
             Object.keys(MARKS).forEach((name, index) => makeMark(name, MARKS[name], index));
         },
-        point: (lng, lat) => new BMap.Point(...talvorMap.gcjToBd(...talvorMap.wgsToGcj(lng, lat))),
+        point(pointLng, pointLat) {
+            const [lng, lat] = talvorMap.gcjToBd(...talvorMap.wgsToGcj(pointLng, pointLat));
+            return new BMap.Point(talvorMap.shortWay(lng), lat);
+        },
         drawLine(name, segments) {
             (lines[name] || []).forEach((line) => map.removeOverlay(line));
             lines[name] = segments.map((segment) => makeLine(name, segment));
@@ -66,9 +69,15 @@
             map.panTo(point);
         },
         fit(southWest, northEast, { top, right, bottom, left }) {
-            const corners = [southWest, northEast].map(({ lng, lat }) => new BMap.Point(lng, lat));
+            // The map ends at the 180th meridian: what lies across it is measured elsewhere.
+            const isAcross = southWest.lng < -180 || northEast.lng > 180;
+            const shift = isAcross ? (southWest.lng + northEast.lng) / 2 : 0;
+            const corners = [southWest, northEast]
+                .map(({ lng, lat }) => new BMap.Point(lng - shift, lat));
             const margins = [top, right, bottom, left];
-            map.setViewport(corners, { margins, enableAnimation: false });
+            const { center, zoom } = map.getViewport(corners, { margins });
+            const lng = talvorMap.shortWay(center.lng + shift);
+            map.centerAndZoom(new BMap.Point(lng, center.lat), zoom);
         },
         bounds() {
             const view = map.getBounds();

@@ -36,7 +36,7 @@
 
     talvorMap.use({
         key: 'google',
-        name: 'Google Maps',
+        controls: 'button',
         scriptUrl: (key, language) => 'https://maps.googleapis.com/maps/api/js?v=weekly'
             + `&loading=async&callback=talvorMap.providerReady&language=${language}&key=${key}`,
         create(element) {
@@ -55,6 +55,7 @@
             const [lng, lat] = talvorMap.wgsToGcj(pointLng, pointLat);
             return { lng, lat };
         },
+        at: (lng, lat) => ({ lng, lat }),
         drawLine(name, segments) {
             (lines[name] || []).forEach((line) => line.setMap(null));
             lines[name] = segments.map((segment) => makeLine(name, segment));

@@ -8,13 +8,17 @@
  *
  * - scriptUrl(key, language): the provider's own script, which calls talvorMap.providerReady();
  *   absent if the page has loaded it
- * - key, name: which key of talvorMapKeys it needs, and what users call it; absent likewise
+ * - key: which key of talvorMapKeys it needs, and which text names it; absent likewise
+ * - controls: a selector of what moves the view when it is clicked
  * - create(element): makes the map, showing something
  * - point(lng, lat): a WGS-84 position as the provider's object, shifted to the provider's datum,
  *   with the fields lng and lat
+ * - at(lng, lat): a position in the provider's datum, whose longitude may lie beyond 180 degrees;
+ *   absent if the map ends there
  * - drawLine(name, segments), drawMark(name, point): replace what LINES and MARKS name; no segments
  *   and null remove it
- * - centre(point, zoom), panTo(point), fit(southWest, northEast, padding): move the view
+ * - centre(point, zoom), panTo(point), fit(southWest, northEast, padding): move the view; a
+ *   longitude to fit may lie beyond 180 degrees
  * - bounds(): {west, south, east, north} of the view, or null if it is not known yet
  * - resized(): the window has another size; absent if the provider sees to that
  */
@@ -26,6 +30,13 @@ window.talvorMap = (() => {
     // The program asks for the sample of the played second every 0.8 seconds, at double speed too.
     // A larger step is a jump.
     const LARGEST_STEP = 5;
+    // A step of a drive is up to a kilometre for each sample since the last fix, as far as these
+    // count.
+    const STEP_DEG = 0.009;
+    const STEPS_WITHOUT_FIX = 60;
+    const STRANDS_TRIED = 8;
+    const SMALLEST_STRAND = 0.1;
+    const DRAG_PX = 4;
     // About 400 m: a parked car is shown with the streets around it.
     const SMALLEST_SPAN_DEG = 0.004;
     // Below this the view is parked out of sight.
@@ -48,23 +59,27 @@ window.talvorMap = (() => {
 
     const TEXTS = {
         en: {
+            google: 'Google Maps',
+            baidu: 'Baidu Maps',
             keyMissing: '{map} needs a key of your own.',
             keyRefused: '{map} does not accept the key.',
             noAnswer: '{map} cannot be loaded: the service is out of reach or no longer supports '
                 + 'this program.',
             keyHint: 'The key belongs in the file keys.js in the program’s maps folder.',
             filesMissing: 'The map cannot be shown because files of the program are missing.',
+            tilesMissing: 'The map images cannot be loaded at the moment.',
             zoomIn: 'Zoom in',
             zoomOut: 'Zoom out',
         },
         zh: {
-            google: 'Google 地图',
+            google: '谷歌地图',
             baidu: '百度地图',
             keyMissing: '{map}需要您自己的密钥。',
             keyRefused: '{map}不接受该密钥。',
             noAnswer: '{map}无法加载：无法连接到服务，或服务已不再支持本程序。',
             keyHint: '密钥请填写在程序 maps 文件夹的 keys.js 文件中。',
             filesMissing: '程序文件不完整，无法显示地图。',
+            tilesMissing: '暂时无法加载地图图片。',
             zoomIn: '放大',
             zoomOut: '缩小',
         },
@@ -76,6 +91,7 @@ window.talvorMap = (() => {
             noAnswer: '{map}無法載入：無法連線到服務，或服務已不再支援本程式。',
             keyHint: '金鑰請填寫在程式 maps 資料夾的 keys.js 檔案中。',
             filesMissing: '程式檔案不完整，無法顯示地圖。',
+            tilesMissing: '暫時無法載入地圖圖片。',
             zoomIn: '放大',
             zoomOut: '縮小',
         },
@@ -87,6 +103,7 @@ window.talvorMap = (() => {
             keyHint: 'La clé s’inscrit dans le fichier keys.js du dossier maps du programme.',
             filesMissing: 'Impossible d’afficher la carte\u00a0: des fichiers du programme sont '
                 + 'manquants.',
+            tilesMissing: 'Les images de la carte sont indisponibles.',
             zoomIn: 'Zoom avant',
             zoomOut: 'Zoom arrière',
         },
@@ -97,6 +114,7 @@ window.talvorMap = (() => {
                 + 'supporta più questo programma.',
             keyHint: 'La chiave va inserita nel file keys.js nella cartella maps del programma.',
             filesMissing: 'Impossibile mostrare la mappa: mancano alcuni file del programma.',
+            tilesMissing: 'Le immagini della mappa non sono disponibili.',
             zoomIn: 'Ingrandisci',
             zoomOut: 'Riduci',
         },
@@ -108,26 +126,33 @@ window.talvorMap = (() => {
             noAnswer: 'サービスに接続できないか、このプログラムがサポート対象外になったため、{map}を読み込めません。',
             keyHint: 'キーはプログラムの maps フォルダーにある keys.js ファイルに入力します。',
             filesMissing: 'プログラムのファイルが不足しているため、地図を表示できません。',
+            tilesMissing: '現在、地図の画像を読み込めません。',
             zoomIn: '拡大',
             zoomOut: '縮小',
         },
         pl: {
-            keyMissing: 'Aby korzystać z {map}, potrzebny jest własny klucz.',
+            google: 'Mapy Google',
+            baidu: 'Mapy Baidu',
+            keyMissing: 'Usługa {map} wymaga własnego klucza.',
             keyRefused: 'Usługa {map} nie przyjmuje klucza.',
-            noAnswer: 'Nie można wczytać {map}: usługa jest nieosiągalna lub nie obsługuje już '
+            noAnswer: 'Nie można wczytać usługi {map}: jest nieosiągalna lub nie obsługuje już '
                 + 'tego programu.',
             keyHint: 'Klucz należy wpisać do pliku keys.js w folderze maps programu.',
             filesMissing: 'Nie można wyświetlić mapy: brakuje plików programu.',
+            tilesMissing: 'W tej chwili nie można wczytać obrazów mapy.',
             zoomIn: 'Powiększ',
             zoomOut: 'Pomniejsz',
         },
         ru: {
-            keyMissing: 'Для {map} нужен собственный ключ.',
-            keyRefused: 'Сервис {map} не принимает ключ.',
-            noAnswer: 'Не удалось загрузить {map}: сервис недоступен или больше не '
+            google: 'Google Карты',
+            baidu: 'Карты Baidu',
+            keyMissing: 'Сервису «{map}» нужен собственный ключ.',
+            keyRefused: 'Сервис «{map}» не принимает ключ.',
+            noAnswer: 'Не удалось загрузить «{map}»: сервис недоступен или больше не '
                 + 'поддерживает эту программу.',
             keyHint: 'Ключ указывается в файле keys.js в папке maps программы.',
             filesMissing: 'Не удалось показать карту: не хватает файлов программы.',
+            tilesMissing: 'Сейчас не удаётся загрузить изображения карты.',
             zoomIn: 'Приблизить',
             zoomOut: 'Отдалить',
         },
@@ -139,6 +164,7 @@ window.talvorMap = (() => {
             keyHint: 'Der Schlüssel gehört in die Datei keys.js im Ordner maps des Programms.',
             filesMissing: 'Die Karte kann nicht angezeigt werden, weil Dateien des Programms '
                 + 'fehlen.',
+            tilesMissing: 'Die Kartenbilder lassen sich zurzeit nicht laden.',
             zoomIn: 'Vergrößern',
             zoomOut: 'Verkleinern',
         },
@@ -150,6 +176,7 @@ window.talvorMap = (() => {
             keyHint: 'La clave se introduce en el archivo keys.js de la carpeta maps del '
                 + 'programa.',
             filesMissing: 'No se puede mostrar el mapa: faltan archivos del programa.',
+            tilesMissing: 'Las imágenes del mapa no están disponibles.',
             zoomIn: 'Acercar',
             zoomOut: 'Alejar',
         },
@@ -161,6 +188,7 @@ window.talvorMap = (() => {
             keyHint: 'A chave deve ser introduzida no ficheiro keys.js da pasta maps do '
                 + 'programa.',
             filesMissing: 'Não é possível mostrar o mapa: faltam ficheiros do programa.',
+            tilesMissing: 'As imagens do mapa não estão disponíveis.',
             zoomIn: 'Ampliar',
             zoomOut: 'Reduzir',
         },
@@ -172,11 +200,14 @@ window.talvorMap = (() => {
             noAnswer: '서비스에 연결할 수 없거나 이 프로그램이 더 이상 지원되지 않아 {map}를 불러올 수 없습니다.',
             keyHint: '키는 프로그램의 maps 폴더에 있는 keys.js 파일에 입력합니다.',
             filesMissing: '프로그램 파일이 없어 지도를 표시할 수 없습니다.',
+            tilesMissing: '지금은 지도 이미지를 불러올 수 없습니다.',
             zoomIn: '확대',
             zoomOut: '축소',
         },
     };
     TEXTS['zh-HK'] = TEXTS['zh-TW'];
+
+    const KEY_FAULTS = ['keyMissing', 'keyRefused'];
 
     const GCJ_RADIUS_M = 6378245.0;
     const GCJ_ECCENTRICITY_SQUARED = 0.00669342162296594323;
@@ -264,11 +295,19 @@ window.talvorMap = (() => {
         return [radius * Math.cos(angle) + 0.0065, radius * Math.sin(angle) + 0.006];
     }
 
+    /** What a language has no text for is English. */
+    function textsIn(name) {
+        return { ...TEXTS.en, ...(TEXTS[name] || TEXTS[name.split('-')[0]]) };
+    }
+
     const language = document.documentElement.lang || navigator.language;
     document.documentElement.lang = language;
-    const texts = TEXTS[language] || TEXTS[language.split('-')[0]] || TEXTS.en;
+    const texts = textsIn(language);
     const mapElement = document.getElementById('map');
     const messageElement = document.getElementById('message');
+    const noteElement = document.createElement('p');
+    noteElement.id = 'note';
+    mapElement.after(noteElement);
 
     let adapter = null;  // the page's provider
     let provider = null; // the same once it is ready
@@ -280,6 +319,8 @@ window.talvorMap = (() => {
     let route = [];    // a complete route
     let live = [];     // {id, point} of the samples played, ids ascending
     let position = null;
+    let decisive = [];  // what of the route the view has to show
+    let homeLng = null; // all is drawn on the turn of the world around it
 
     const stale = new Set(); // what the next frame draws again
     let frameRequest = 0;
@@ -288,15 +329,70 @@ window.talvorMap = (() => {
     let wantsFit = false;
     let wantsFollow = false;
     let isPlaced = false; // whether the view has gone to the present drive
+    let keepsFit = false; // whether the view shows the whole route, and nobody has moved it since
     let lastTouchMs = -Infinity;
+    let pressedAt = null;
 
-    const shown = { routeSegments: [], drivenSegments: [], position: null, frames: 0, fits: 0 };
+    const shown = {
+        routeSegments: [], drivenSegments: [], position: null, frames: 0, fits: 0, fitBounds: null,
+    };
 
-    /** A cut line: a new segment begins after null, and across the 180th meridian. */
+    /** The difference between longitudes the short way round. */
+    function shortWay(degrees) {
+        return degrees - 360 * Math.round(degrees / 360);
+    }
+
+    /** Where the point lies on the turn of the world around home, so that no line goes round it. */
+    function nearHome(point) {
+        const turns = Math.round((homeLng - point.lng) / 360);
+        return turns !== 0 && provider.at ? provider.at(point.lng + 360 * turns, point.lat) : point;
+    }
+
+    function aroundHome({ lng, lat }) {
+        return { lng: homeLng + shortWay(lng - homeLng), lat };
+    }
+
+    function isStep(from, to, samples) {
+        const east = shortWay(to.lng - from.lng) * Math.cos(from.lat * Math.PI / 180);
+        return Math.hypot(east, to.lat - from.lat)
+            <= STEP_DEG * Math.min(samples, STEPS_WITHOUT_FIX);
+    }
+
+    /**
+     * The points without a receiver's wild fixes, one of which would make a drive through a town
+     * as small as a dot in a fitted view. Points are put together to strands of possible steps: a
+     * wild fix is a strand of its own, while the drive goes on behind it. Strands with less than a
+     * tenth of the points of the longest are left out. The result begins in the longest.
+     */
+    function withoutWildFixes(points) {
+        const strands = [];
+        const recent = []; // the strands that grew last, the last in front
+        points.forEach((point, index) => {
+            if (!point)
+                return;
+            const found = recent.findIndex((s) => isStep(s.points[s.points.length - 1], point,
+                index - s.index));
+            const [strand] = found < 0 ? [{ points: [] }] : recent.splice(found, 1);
+            if (found < 0)
+                strands.push(strand);
+            strand.points.push(point);
+            strand.index = index;
+            recent.unshift(strand);
+            recent.length = Math.min(recent.length, STRANDS_TRIED);
+        });
+        strands.sort((a, b) => b.points.length - a.points.length);
+        return strands
+            .filter((strand) => strand.points.length
+                >= SMALLEST_STRAND * strands[0].points.length)
+            .flatMap((strand) => strand.points);
+    }
+
+    /** A line: a new segment begins after null, and where the provider's map ends. */
     function segmentsOf(points) {
         const segments = [];
         let last = null;
-        for (const point of points) {
+        for (const sample of points) {
+            const point = sample && nearHome(sample);
             if (point && last && Math.abs(point.lng - last.lng) < 180)
                 segments[segments.length - 1].push(point);
             else if (point)
@@ -352,8 +448,10 @@ window.talvorMap = (() => {
         // The view first: lines are projected once, for the view in which they are seen.
         if (stale.has('size') && provider.resized)
             provider.resized();
-        if (stale.has('route'))
+        if (stale.has('route')) {
             shown.routeSegments = segmentsOf(route);
+            shown.fitBounds = boundsOf(decisive.length > 0 ? [decisive.map(aroundHome)] : []);
+        }
         placeView();
         if (stale.has('route'))
             drawRoute();
@@ -373,9 +471,9 @@ window.talvorMap = (() => {
 
     function drawDriven() {
         shown.drivenSegments = segmentsOf(drivenPoints());
-        shown.position = position;
+        shown.position = position && nearHome(position);
         provider.drawLine('driven', shown.drivenSegments);
-        provider.drawMark('position', position);
+        provider.drawMark('position', shown.position);
     }
 
     function placeView() {
@@ -391,22 +489,28 @@ window.talvorMap = (() => {
     }
 
     function fitRoute() {
-        const [west, south, east, north] = boundsOf(shown.routeSegments);
+        const [west, south, east, north] = shown.fitBounds;
         const growLng = Math.max(0, SMALLEST_SPAN_DEG - (east - west)) / 2;
         const growLat = Math.max(0, SMALLEST_SPAN_DEG - (north - south)) / 2;
         provider.fit({ lng: west - growLng, lat: south - growLat },
             { lng: east + growLng, lat: north + growLat }, FIT_PADDING_PX);
         shown.fits += 1;
         wantsFit = false;
+        keepsFit = true;
     }
 
     /** Users who move the map to look around have some seconds for it. */
     function follow() {
         if (!isPlaced)
-            provider.centre(position, STREET_ZOOM);
+            provider.centre(nearHome(position), STREET_ZOOM);
         else if (!isInView(position) && performance.now() - lastTouchMs > HANDS_OFF_MS)
-            provider.panTo(position);
+            provider.panTo(nearHome(position));
         isPlaced = true;
+    }
+
+    /** How far one goes from the one longitude to the other when going east. */
+    function eastOf(from, to) {
+        return (to - from) - 360 * Math.floor((to - from) / 360);
     }
 
     function isInView({ lng, lat }) {
@@ -415,13 +519,16 @@ window.talvorMap = (() => {
             return false;
         const isWithin = (share, lengthPx) => share * lengthPx > EDGE_PX
             && (1 - share) * lengthPx > EDGE_PX;
-        return isWithin((lng - view.west) / (view.east - view.west), mapElement.clientWidth)
+        const width = view.east - view.west;
+        return isWithin(eastOf(view.west, lng) / (width > 0 ? width : width + 360),
+            mapElement.clientWidth)
             && isWithin((lat - view.south) / (view.north - view.south), mapElement.clientHeight);
     }
 
     function showMapCenter(lng, lat) {
         wantedCentre = provider.point(lng, lat);
         wantsFit = false;
+        keepsFit = false;
         wantsFollow = false;
         refresh();
     }
@@ -438,6 +545,8 @@ window.talvorMap = (() => {
         if (point) {
             position = point;
             wantsFollow = true;
+            if (homeLng === null)
+                homeLng = point.lng;
         }
         refresh('driven');
     }
@@ -458,7 +567,10 @@ window.talvorMap = (() => {
 
     function setRoute(points) {
         route = points;
-        wantsFit = points.some(Boolean);
+        decisive = withoutWildFixes(points);
+        homeLng = (decisive[0] || position || { lng: null }).lng;
+        wantsFit = decisive.length > 0;
+        keepsFit = false;
         isPlaced = isPlaced || wantsFit;
         refresh('route', 'driven');
     }
@@ -487,9 +599,15 @@ window.talvorMap = (() => {
     /** Shows a text about the provider instead of the map. */
     function fail(textName) {
         clearTimeout(timeout);
-        const sentence = texts[textName].replace('{map}', texts[adapter.key] || adapter.name);
-        messageElement.textContent = adapter.key ? sentence + '\n\n' + texts.keyHint : sentence;
+        const sentence = texts[textName].replace('{map}', texts[adapter.key]);
+        const hint = KEY_FAULTS.includes(textName) ? '\n\n' + texts.keyHint : '';
+        messageElement.textContent = sentence + hint;
         messageElement.hidden = false;
+    }
+
+    /** A quiet line in the corner of the map; without a name of a text there is none. */
+    function note(textName) {
+        noteElement.textContent = textName ? texts[textName] : '';
     }
 
     /** Makes the map and carries out the calls that were held back; late is better than never. */
@@ -518,7 +636,7 @@ window.talvorMap = (() => {
 
     function keyOf({ key }) {
         const keys = window.talvorMapKeys || {}; // Users may have broken or removed the file.
-        return (keys[key] || '').trim();
+        return typeof keys[key] === 'string' ? keys[key].trim() : '';
     }
 
     function use(pageAdapter) {
@@ -537,12 +655,14 @@ window.talvorMap = (() => {
         const { routeSegments, drivenSegments } = shown;
         return {
             message: messageElement.hidden ? '' : messageElement.textContent,
+            note: noteElement.textContent,
             held: held.length,
             frames: shown.frames,
             fits: shown.fits,
             routePoints: count(routeSegments),
             routeSegments: routeSegments.length,
             routeBounds: boundsOf(routeSegments),
+            fitBounds: shown.fitBounds,
             drivenPoints: count(drivenSegments),
             drivenSegments: drivenSegments.length,
             drivenBounds: boundsOf(drivenSegments),
@@ -551,25 +671,67 @@ window.talvorMap = (() => {
         };
     }
 
+    /** A route that is shown as a whole stays so, in a parked view that comes back as well. */
+    function onResize() {
+        if (!provider)
+            return;
+        wantsFit = wantsFit || keepsFit;
+        refresh('size');
+    }
+
+    function touched() {
+        lastTouchMs = performance.now();
+    }
+
+    function onViewMoved() {
+        touched();
+        keepsFit = false;
+    }
+
+    function onPress(event) {
+        touched();
+        pressedAt = event;
+    }
+
+    function onMove({ buttons, clientX, clientY }) {
+        if (buttons !== 0 && pressedAt
+            && Math.hypot(clientX - pressedAt.clientX, clientY - pressedAt.clientY) > DRAG_PX)
+            onViewMoved();
+    }
+
+    function onClick({ target }) {
+        if (target.closest(adapter.controls))
+            onViewMoved();
+    }
+
     window.showMapCenter = whenReady(showMapCenter);
     window.mapAddPoint = whenReady(mapAddPoint);
     window.loadAllGpsDataOfVideo = whenReady(loadAllGpsDataOfVideo);
     window.mapClearAll = mapClearAll;
-    window.addEventListener('resize', () => provider && refresh('size'));
-    for (const event of ['pointerdown', 'pointerup', 'wheel']) {
-        mapElement.addEventListener(event, () => { lastTouchMs = performance.now(); },
-            { capture: true, passive: true });
-    }
+    window.addEventListener('resize', onResize);
+    const gestures = {
+        pointerdown: onPress,
+        pointermove: onMove,
+        pointerup: touched,
+        wheel: onViewMoved,
+        dblclick: onViewMoved,
+        click: onClick,
+    };
+    for (const [event, react] of Object.entries(gestures))
+        mapElement.addEventListener(event, react, { capture: true, passive: true });
 
     return {
         LINES,
         MARKS,
         texts,
+        textsIn,
+        shortWay,
         wgsToGcj,
         gcjToBd,
         use,
         providerReady,
         fail,
+        note,
         state,
     };
 })();

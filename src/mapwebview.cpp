@@ -5,32 +5,31 @@
 #include "appname.h"
 #include "gpsuser.h"
 #include "mappage.h"
+#include "overlaywindow.h"
+#include "pagecalls.h"
 
-#include <QApplication>
+#include <QColor>
 #include <QCoreApplication>
 #include <QDebug>
-#include <QDesktopWidget>
 #include <QDir>
 #include <QEvent>
 #include <QLockFile>
 #include <QTime>
-#include <QTimer>
 #include <QUrl>
 #include <QWebEngineProfile>
 #include <QWebEngineView>
-#include <QWindow>
 
 #include <iterator>
-#include <utility>
 
 namespace {
 
 constexpr int PageLoadMs = 1000;
 constexpr int SettleMs = 500;
-constexpr int PageStateMs = 20;
 constexpr int EventSliceMs = 100;
-constexpr int CallsPerTurn = 5000; // of a long track, between two turns of the event loop
+constexpr int CallsPerTurn = 500; // of a long track, before others may make theirs
 constexpr int TileCacheBytes = 100 * 1024 * 1024;
+
+constexpr QRgb MapBackground = qRgb(37, 37, 40); // that of the pages, which paint it too late
 
 const char GooglePagePrefix[] = "WG_";
 
@@ -112,9 +111,7 @@ MapWebView::~MapWebView()
 
 void MapWebView::updatePosition()
 {
-    webView->setGeometry(
-        QRect(mapToGlobal(QPoint(0, 0)), mapToGlobal(QPoint(width() - 1, height() - 1))));
-    showWebView();
+    mOverlay->cover();
 }
 
 void MapWebView::dropTrack()
@@ -137,9 +134,9 @@ bool MapWebView::eventFilter(QObject *watched, QEvent *event)
         if (event->type() == QEvent::Move || event->type() == QEvent::Resize)
             updatePosition();
         else if (isOwn && event->type() == QEvent::Show)
-            showWebView();
+            mOverlay->show();
         else if (isOwn && event->type() == QEvent::Hide)
-            webView->hide();
+            mOverlay->hide();
     }
     return QWidget::eventFilter(watched, event);
 }
@@ -185,7 +182,7 @@ void MapWebView::setWebViewVisible(bool visible)
     if (visible)
         updatePosition();
     else
-        webView->setGeometry(0, QApplication::desktop()->geometry().height(), 1, 1);
+        mOverlay->park();
 }
 
 void MapWebView::loadAllGpsData(QVector<QVector<double>> allGpsData)
@@ -210,10 +207,7 @@ void MapWebView::setWheelZoomValid()
 
 void MapWebView::runScript(const QString &call)
 {
-    if (mIsPageLoaded)
-        webView->page()->runJavaScript(call);
-    else
-        mHeldCalls.append(call);
+    mCalls->run(call);
 }
 
 void MapWebView::setupWebView()
@@ -224,11 +218,11 @@ void MapWebView::setupWebView()
     keepTilesOnDisk(profile);
     profile->setHttpUserAgent(userAgent());
     webView->setPage(new MapPage(profile, webView));
-    connect(webView->page(), &MapPage::loadFinished, this, &MapWebView::onLoadFinished);
+    webView->page()->setBackgroundColor(MapBackground);
+    mCalls = new PageCalls(webView->page(), this);
+    connect(mCalls, &PageCalls::pageLost, this, &MapWebView::loadPageAgain);
 
-    webView->setWindowFlags(Qt::Tool | Qt::FramelessWindowHint);
-    webView->setAttribute(Qt::WA_MacAlwaysShowToolWindow);
-    webView->setAttribute(Qt::WA_ShowWithoutActivating);
+    mOverlay = new OverlayWindow(webView, this, this);
     webView->setContextMenuPolicy(Qt::NoContextMenu);
     webView->setAcceptDrops(false);
 }
@@ -246,69 +240,16 @@ void MapWebView::keepTilesOnDisk(QWebEngineProfile *profile)
         profile->setHttpCacheType(QWebEngineProfile::MemoryHttpCache);
 }
 
-/** Only behind the main window: a window manager that hears of the web view first puts it below. */
-void MapWebView::showWebView()
-{
-    if (!isVisible())
-        return;
-    if (!window()->windowHandle()->isVisible()) {
-        QTimer::singleShot(0, this, &MapWebView::showWebView);
-        return;
-    }
-    if (!webView->windowHandle()) {
-        // The window system never gives it the keyboard, which the main window's shortcuts need.
-        webView->winId();
-        webView->windowHandle()->setFlag(Qt::WindowDoesNotAcceptFocus);
-    }
-    webView->show();
-}
-
 void MapWebView::loadPage(const QString &fileName)
 {
-    mIsOverlapping = mPageCount > 0 && !mIsPageLoaded;
-    mIsPageLoaded = false;
-    ++mPageCount;
-    mPageName = fileName;
-    mHeldCalls.clear();
     webView->page()->profile()->setHttpAcceptLanguage(QLatin1String(ofLanguage(PageLanguages)));
-    webView->page()->load(QUrl::fromLocalFile(QCoreApplication::applicationDirPath() +
-                                              QStringLiteral("/maps/") + fileName));
+    mCalls->load(QUrl::fromLocalFile(QCoreApplication::applicationDirPath() +
+                                     QStringLiteral("/maps/") + fileName));
 }
 
-// Of loads that overlap the web engine reports one end only, and that may be before the last page
-// has its functions.
-void MapWebView::onLoadFinished()
+void MapWebView::loadPageAgain()
 {
-    if (mIsOverlapping)
-        askPage(mPageCount);
-    else
-        runHeldCalls();
-}
-
-/** Asks again and again: an answer is lost with the page that was asked. */
-void MapWebView::askPage(int page)
-{
-    if (mIsPageLoaded || page != mPageCount)
-        return;
-    webView->page()->runJavaScript(
-        QStringLiteral("document.readyState"),
-        [this, page](const QVariant &state) { onPageState(page, state.toString()); });
-    QTimer::singleShot(PageStateMs, this, [this, page] { askPage(page); });
-}
-
-void MapWebView::onPageState(int page, const QString &state)
-{
-    if (!mIsPageLoaded && page == mPageCount && state == QLatin1String("complete") &&
-        webView->page()->url().fileName() == mPageName)
-        runHeldCalls();
-}
-
-void MapWebView::runHeldCalls()
-{
-    mIsPageLoaded = true;
-    const QStringList calls = std::exchange(mHeldCalls, {});
-    for (const QString &call : calls)
-        webView->page()->runJavaScript(call);
+    setMapType(Configuration::GetInstance()->maps());
 }
 
 void MapWebView::loadOpenStreetMap()
@@ -339,15 +280,16 @@ void MapWebView::sendTrack(const QVector<QVector<double>> &track)
 {
     const QString call = QStringLiteral("loadAllGpsDataOfVideo(%1, %2, %3, %4)");
     const int dropCount = mDropCount;
-    const int page = mPageCount;
-    for (int i = 0; i < track.size() && dropCount == mDropCount && page == mPageCount; ++i) {
+    const int page = mCalls->pageCount();
+    const auto isWanted = [&] { return dropCount == mDropCount && page == mCalls->pageCount(); };
+    for (int i = 0; i < track.size() && isWanted(); ++i) {
         const QVector<double> &pair = track.at(i);
         runScript(call.arg(fixed(pair.at(0)), fixed(pair.at(1))).arg(i).arg(track.size()));
         if (i % CallsPerTurn == CallsPerTurn - 1)
-            QCoreApplication::processEvents();
+            mCalls->letPageCatchUp();
     }
     // A page that was loaded meanwhile knows nothing of this track.
-    if (page != mPageCount && dropCount == mDropCount &&
+    if (page != mCalls->pageCount() && dropCount == mDropCount &&
         Configuration::GetInstance()->maps() == MapOpenStreetMap)
         sendTrack(track);
 }

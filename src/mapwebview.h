@@ -5,12 +5,13 @@
 #include "configuration.h"
 #include "mappoint.h"
 
-#include <QStringList>
 #include <QVector>
 #include <QWidget>
 
 #include <memory>
 
+class OverlayWindow;
+class PageCalls;
 class QLockFile;
 class QWebEngineProfile;
 class QWebEngineView;
@@ -19,12 +20,11 @@ class QWebEngineView;
  * The place of the map in the main window, and the web view that lies over it.
  *
  * The map is a local page, one for each provider, that is driven by calls of its JavaScript
- * functions only; none of them has a result. Calls made before the page has loaded are held back
- * and run in order when it has; a new page drops those held for the old one. A page that is missing
- * shows the web view's own error.
+ * functions only (PageCalls). A page that is missing shows the web view's own error; one whose
+ * process dies is loaded again, and given the track again.
  *
- * The web view is a frameless tool window that follows this widget, because a picture of the web
- * engine does not mix with those of a video in one window. It never takes the keyboard.
+ * The web view is a window that follows this widget (OverlayWindow), because a picture of the web
+ * engine does not mix with those of a video in one window.
  *
  * GUI thread only. Some of the commands wait while events are processed, so that other slots run
  * in the meantime, those of this class included.
@@ -70,12 +70,8 @@ protected:
 
 private:
     void setupWebView();
-    void showWebView();
     void loadPage(const QString &fileName);
-    void onLoadFinished();
-    void askPage(int page);
-    void onPageState(int page, const QString &state);
-    void runHeldCalls();
+    void loadPageAgain();
     void keepTilesOnDisk(QWebEngineProfile *profile);
     void loadOpenStreetMap();
     void sendTrackAgain();
@@ -86,11 +82,8 @@ private:
     QWidget *topWindow = nullptr; ///< the window that this widget lies in, may be null
     bool allDataLoaded = false;   ///< a track was offered, whether or not the page took it
 
-    bool mIsPageLoaded = false;  // or will never be: then calls fail in silence
-    bool mIsOverlapping = false; // the page was asked for before the one before it had loaded
-    int mPageCount = 0;
-    QString mPageName;
-    QStringList mHeldCalls;
+    OverlayWindow *mOverlay = nullptr;
+    PageCalls *mCalls = nullptr;
     int mDropCount = 0; // a track that is older than the last of these is given up
     std::unique_ptr<QLockFile> mCacheLock;
 };

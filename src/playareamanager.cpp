@@ -10,6 +10,7 @@
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QMimeData>
+#include <QMouseEvent>
 #include <QUrl>
 
 #include <algorithm>
@@ -297,6 +298,13 @@ void PlayAreaManager::onPositionChanged(qint64 position)
     }
     if (mMainRow)
         emit positionChanged(position / 1000, mMainRow->id);
+}
+
+// While a picture is on its way to or from the full screen, quick clicks meet the area below it.
+// They are not meant for the window, which would be maximised.
+void PlayAreaManager::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    event->accept();
 }
 
 void PlayAreaManager::dragEnterEvent(QDragEnterEvent *event)

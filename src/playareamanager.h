@@ -100,6 +100,7 @@ public slots:
     void onPositionChanged(qint64 position);
 
 protected:
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dropEvent(QDropEvent *event) override;
 

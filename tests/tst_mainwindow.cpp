@@ -5,6 +5,7 @@
 #include "controlpanel.h"
 #include "elidedlabel.h"
 #include "mainwindows.h"
+#include "mapwebview.h"
 #include "mediafile.h"
 #include "playareamanager.h"
 #include "playlistmodel.h"
@@ -265,7 +266,10 @@ void tst_MainWindow::changingTheLanguage()
     open();
     mWindow->setTitleFileName(QStringLiteral("MOVA0001.MP4"));
     QTest::mouseClick(child("pBtn_Maximize"), Qt::LeftButton);
+    Configuration::GetInstance()->setMaps(MapGoogle);
     Configuration::GetInstance()->setLanguage(EnglishUK);
+    const auto *map = child<MapWebView>("wgt_MapView")->findChild<QWebEngineView *>()->page();
+    QTRY_COMPARE(map->requestedUrl().fileName(), QStringLiteral("WG_GoogleMapIndex_en_uk.html"));
     mWindow->resize(1500, 900);
     QCOMPARE(mWindow->windowTitle(), Title);
     QCOMPARE(child<QLabel>("lbl_Title")->text(), Title);

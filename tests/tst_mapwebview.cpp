@@ -1,18 +1,28 @@
 // SPDX-FileCopyrightText: 2026 Quellfern
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "appname.h"
 #include "configuration.h"
 #include "gpsuser.h"
 #include "mapwebview.h"
 
 #include <QCloseEvent>
+#include <QDesktopServices>
 #include <QDesktopWidget>
 #include <QDialog>
 #include <QKeyEvent>
+#include <QLockFile>
+#include <QMimeData>
 #include <QProcess>
+#include <QRegularExpression>
+#include <QScreen>
+#include <QTcpServer>
+#include <QTcpSocket>
 #include <QtTest>
 #include <QVBoxLayout>
 #include <QWebEnginePage>
+#include <QWebEngineProfile>
 #include <QWebEngineView>
+#include <QWindow>
 
 namespace {
 
@@ -42,6 +52,13 @@ protected:
     void closeEvent(QCloseEvent *event) override { event->accept(); }
 };
 
+QElapsedTimer startedTimer()
+{
+    QElapsedTimer timer;
+    timer.start();
+    return timer;
+}
+
 QString outputOf(const QString &program, const QStringList &arguments)
 {
     QProcess process;
@@ -49,6 +66,18 @@ QString outputOf(const QString &program, const QStringList &arguments)
     if (!process.waitForFinished(10000) || process.exitCode() != 0)
         qWarning() << program << arguments << process.errorString();
     return QString::fromLocal8Bit(process.readAllStandardOutput());
+}
+
+bool isOnScreen(const QWidget *window)
+{
+    return outputOf("xwininfo", {"-id", QString::number(window->winId())}).contains("IsViewable");
+}
+
+/** Clicks and types as a user. */
+void useMouseAt(QPoint place, const QStringList &commands)
+{
+    const QStringList move{"mousemove", QString::number(place.x()), QString::number(place.y())};
+    outputOf("xdotool", move + commands);
 }
 
 void setLanguage(int language)
@@ -71,17 +100,31 @@ private slots:
     void callTexts();
     void tracksAndProviders();
     void pageChangesUnderATrack();
+    void longTracksLetOthersBefore();
+    void comesBackWhenThePageDies();
     void callsWaitForThePage();
     void callsWaitForTheLastOfTwoPages();
     void followsItsPlace();
+    void keepsToTheScreen_data();
+    void keepsToTheScreen();
+    void comesBackWithItsWindow();
+    void bringsItsWindowToTheFront();
+    void neverFlashes();
     void leavesKeyboardAndProgramAlone();
+    void tellsServersWhoAsks();
+    void opensLinksInTheBrowser();
+    void offersNothingOfABrowser();
+    void oneProgramHasTheCache();
+    void openInBrowser(const QUrl &url) { mOpened.append(url.toString()); }
 
 private:
     QRect place() const;
     QString stateOf(const QString &expression);
+    void waitForPage();
 
     std::unique_ptr<Window> mWindow;
     ListeningMap *mMap = nullptr;
+    QStringList mOpened;
     QWebEngineView *mView = nullptr;
 };
 
@@ -119,6 +162,13 @@ QString TestMapWebView::stateOf(const QString &expression)
     });
     QTestEventLoop::instance().enterLoop(5); // QTest::qWait() starves the web engine
     return *answer;
+}
+
+/** Until it shows a map. */
+void TestMapWebView::waitForPage()
+{
+    QTRY_COMPARE(stateOf("String(window.talvorMap && talvorMap.state().frames > 0)"),
+                 QString("true"));
 }
 
 void TestMapWebView::pages_data()
@@ -219,6 +269,69 @@ void TestMapWebView::pageChangesUnderATrack()
              QString("loadAllGpsDataOfVideo(11.500000, 48.250000, 0, 6000)"));
 }
 
+/** While a long track is sent, the page is only little behind, so that live points come at once. */
+void TestMapWebView::longTracksLetOthersBefore()
+{
+    constexpr int count = 20000;
+    mWindow->show();
+    QTRY_COMPARE(
+        stateOf("loadAllGpsDataOfVideo = () => { window.n = (window.n || 0) + 1; }; 'set'"),
+        QString("set"));
+    mMap->calls.clear();
+    int received = 0;
+    int furthestBehind = 0;
+    int turns = 0;
+    QTimer probe; // one question at a time, which waits behind the calls like a live point
+    connect(&probe, &QTimer::timeout, mMap, [&] {
+        probe.stop();
+        turns += !mMap->calls.isEmpty() && mMap->calls.size() < count;
+        const int sent = mMap->calls.size();
+        mView->page()->runJavaScript("window.n || 0", [&, sent](const QVariant &n) {
+            received = n.toInt();
+            furthestBehind = qMax(furthestBehind, mMap->calls.size() - sent);
+            if (received < count)
+                probe.start(1);
+        });
+    });
+    probe.start(1);
+    mMap->loadAllGpsData(QVector<QVector<double>>(count, {11.5, 48.25}));
+    QTRY_COMPARE(received, count);
+    QCOMPARE(mMap->calls.size(), count);
+    QVERIFY(turns > 10);
+    QVERIFY2(furthestBehind < count / 5, qPrintable(QString::number(furthestBehind)));
+}
+
+void TestMapWebView::comesBackWhenThePageDies()
+{
+    const QVector<QVector<double>> track{{11.5, 48.25}, {11.5001, 48.2501}};
+    const QString lastCall = "loadAllGpsDataOfVideo(11.500100, 48.250100, 1, 2)";
+    const QUrl death("chrome://crash/");
+    mWindow->resize(320, 280);
+    mWindow->show();
+    mMap->loadAllGpsData(track);
+    mMap->setUserData(GPS_USER_DATA_ID, new GPSUser(3, track));
+    int died = 0;
+    connect(mView->page(), &QWebEnginePage::renderProcessTerminated, mMap, [&died] { ++died; });
+    for (int deaths = 1; deaths <= 3; ++deaths) {
+        mMap->calls.clear();
+        mView->page()->load(death);
+        QTRY_COMPARE_WITH_TIMEOUT(mMap->calls.value(mMap->calls.size() - 1), lastCall, 10000);
+        mMap->addPoint({deaths, 11.6, 48.2});
+        QTRY_COMPARE(stateOf("JSON.stringify(talvorMap.state().position)"), QString("[11.6,48.2]"));
+        QCOMPARE(stateOf("String(talvorMap.state().routePoints)"), QString("2"));
+        QCOMPARE(died, deaths);
+    }
+    mView->page()->load(death); // that is enough
+    QTRY_COMPARE(died, 4);
+    mMap->calls.clear();
+    QTestEventLoop::instance().enterLoopMSecs(100);
+    QCOMPARE(mView->page()->requestedUrl(), death);
+    QCOMPARE(mMap->calls, QStringList());
+
+    mMap->setMapType(MapOpenStreetMap);
+    QTRY_COMPARE(stateOf("String(talvorMap.state().routePoints)"), QString("2"));
+}
+
 void TestMapWebView::callsWaitForThePage()
 {
     mWindow->resize(320, 280);
@@ -275,14 +388,6 @@ void TestMapWebView::followsItsPlace()
     QTRY_VERIFY(mMap->width() < 1000);
     QTRY_COMPARE(mView->geometry(), place());
 
-    const QStringList ofView{"-id", QString::number(mView->winId())};
-    QVERIFY(outputOf("xwininfo", ofView).contains("IsViewable"));
-    mWindow->showMinimized();
-    QTRY_VERIFY(!outputOf("xwininfo", ofView).contains("IsViewable"));
-    mWindow->showNormal();
-    QTRY_VERIFY(outputOf("xwininfo", ofView).contains("IsViewable"));
-    QTRY_COMPARE(mView->geometry(), place());
-
     mMap->setWebViewVisible(false);
     QCOMPARE(mView->geometry(), QRect(0, QApplication::desktop()->height(), 1, 1));
     QVERIFY(mView->isVisible());
@@ -294,21 +399,215 @@ void TestMapWebView::followsItsPlace()
     QTRY_VERIFY(mView->isVisible());
 }
 
+void TestMapWebView::keepsToTheScreen_data()
+{
+    QTest::addColumn<QPoint>("offset"); // of the place's corner from the screen's
+    QTest::newRow("out at the left") << QPoint(-200, 300);
+    QTest::newRow("out at the right") << QPoint(1500, 300);
+    QTest::newRow("out at the bottom") << QPoint(300, 900);
+    QTest::newRow("hardly in at the left") << QPoint(-293, 300);
+    QTest::newRow("hardly in at the bottom") << QPoint(300, 988);
+    QTest::newRow("on no screen") << QPoint(1601, 300);
+}
+
+/** Window managers would push what is nearly out of sight back into it. */
+void TestMapWebView::keepsToTheScreen()
+{
+    QFETCH(QPoint, offset);
+    const QRect screen = QGuiApplication::primaryScreen()->geometry();
+    QCOMPARE(screen, QRect(0, 0, 1600, 1000));
+    mMap->setFixedSize(300, 250);
+    mWindow->layout()->setContentsMargins(300, 20, 300, 20); // what stays in sight
+    mWindow->setGeometry(100, 120, 900, 290);
+    mWindow->show();
+    QTRY_VERIFY(isOnScreen(mView));
+    QCOMPARE(mView->geometry(), place());
+    const QRect wanted = QRect(offset, mMap->size()) & screen;
+
+    mWindow->move(mWindow->pos() + offset - place().topLeft());
+    QTRY_COMPARE(place().topLeft(), offset);
+    if (wanted.width() < 20 || wanted.height() < 20) {
+        QTRY_VERIFY(!mView->isVisible());
+        mMap->hide();
+        mMap->show();
+        QVERIFY(!mView->isVisible());
+    } else {
+        QTRY_COMPARE(mView->geometry(), wanted);
+        QVERIFY(mView->isVisible());
+    }
+    mWindow->move(100, 120);
+    QTRY_VERIFY(mView->isVisible());
+    QTRY_COMPARE(mView->geometry(), place());
+}
+
+/** The window manager minimises and restores both together. */
+void TestMapWebView::comesBackWithItsWindow()
+{
+    mWindow->setGeometry(100, 120, 320, 280);
+    mWindow->show();
+    QTRY_VERIFY(isOnScreen(mView));
+    const QString window = QString::number(mWindow->winId());
+    for (int i = 0; i < 4; ++i) {
+        outputOf("xdotool", {"windowminimize", window});
+        QTRY_VERIFY(mWindow->isMinimized() && !isOnScreen(mView));
+        outputOf("xdotool", {"windowmap", window});
+        QTRY_VERIFY(!mWindow->isMinimized() && isOnScreen(mWindow.get()) && isOnScreen(mView));
+        QTRY_COMPARE(mView->geometry(), place());
+    }
+}
+
+void TestMapWebView::bringsItsWindowToTheFront()
+{
+    mWindow->setGeometry(100, 120, 320, 280);
+    mWindow->show();
+    QVERIFY(QTest::qWaitForWindowActive(mWindow.get()));
+    QTRY_VERIFY(isOnScreen(mView));
+    QWidget cover;
+    cover.setGeometry(mWindow->geometry().translated(0, 150));
+    cover.show();
+    QVERIFY(QTest::qWaitForWindowActive(&cover));
+    const auto stacking = [] { return outputOf("xprop", {"-root", "_NET_CLIENT_LIST_STACKING"}); };
+    const auto isAbove = [&stacking](const QWidget &upper, const QWidget &lower) {
+        const QString ids = stacking();
+        const auto at = [&ids](WId id) { return ids.indexOf(QString::number(id, 16)); };
+        return at(upper.winId()) > at(lower.winId());
+    };
+    QTRY_VERIFY(isAbove(cover, *mView) && isAbove(*mView, *mWindow));
+
+    useMouseAt(place().topLeft() + QPoint(100, 20), {"click", "1"});
+    QTRY_VERIFY(isAbove(*mView, *mWindow) && isAbove(*mWindow, cover));
+    QVERIFY(QTest::qWaitForWindowActive(mWindow.get()));
+}
+
+/** The page is dark, and so is what can be seen before there is a page. */
+void TestMapWebView::neverFlashes()
+{
+    mWindow->setStyleSheet("background: black");
+    mWindow->setGeometry(100, 120, 320, 280);
+    mWindow->show();
+    QTRY_COMPARE(mView->geometry(), place());
+    const QRect middle(place().center(), QSize(1, 1));
+    QSet<QRgb> colours;
+    for (int page = 0; page < 2; ++page) {
+        for (QElapsedTimer shown = startedTimer(); shown.elapsed() < 1000;) {
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
+            const QPixmap grab =
+                QGuiApplication::primaryScreen()->grabWindow(0, middle.x(), middle.y(), 1, 1);
+            colours.insert(grab.toImage().pixel(0, 0));
+        }
+        mMap->setMapType(MapGoogle);
+    }
+    for (const QRgb colour : colours)
+        QVERIFY2(qGray(colour) < 128, qPrintable(QColor(colour).name()));
+    QVERIFY(colours.contains(qRgb(37, 37, 40)));
+}
+
 void TestMapWebView::leavesKeyboardAndProgramAlone()
 {
     mWindow->setGeometry(100, 120, 320, 280);
     mWindow->show();
     QVERIFY(QTest::qWaitForWindowActive(mWindow.get()));
     QTRY_VERIFY(mView->isVisible());
-    const QPoint middle = place().center();
-    outputOf("xdotool", {"mousemove", QString::number(middle.x()), QString::number(middle.y()),
-                         "click", "1", "key", "space"});
+    useMouseAt(place().center(), {"click", "1", "key", "space"});
     QTRY_COMPARE(mWindow->spaces, 1);
+    const QStringList ofView{"-id", QString::number(mView->winId()), "WM_HINTS"};
+    QVERIFY(outputOf("xprop", ofView).contains("accepts input or input focus: False"));
 
     QTimer::singleShot(0, mWindow.get(), &QWidget::close);
-    QTimer::singleShot(5000, this, [] { QCoreApplication::exit(1); });
+    QTimer tooLate; // gone with this test: after an exit, no other event loop runs
+    connect(&tooLate, &QTimer::timeout, this, [] { QCoreApplication::exit(1); });
+    tooLate.start(5000);
     QCOMPARE(QCoreApplication::exec(), 0); // ended by the last window
     QVERIFY(!mView->isVisible());
+}
+
+void TestMapWebView::tellsServersWhoAsks()
+{
+    setLanguage(German);
+    mMap->setMapType(MapOpenStreetMap);
+    QTRY_COMPARE(stateOf("document.documentElement.lang"), QString("de"));
+
+    QTcpServer server;
+    QVERIFY(server.listen(QHostAddress::LocalHost));
+    stateOf(QString("new Image().src = 'http://127.0.0.1:%1/'").arg(server.serverPort()));
+    QTRY_VERIFY(server.hasPendingConnections());
+    QTcpSocket *socket = server.nextPendingConnection();
+    QByteArray request;
+    QTRY_VERIFY((request += socket->readAll()).contains("\r\n\r\n"));
+    const QString text = QString::fromLatin1(request);
+    const auto header = [&text](const QString &name) {
+        const QRegularExpression line(name + ": ([^\r]*)\r\n");
+        return line.match(text).captured(1);
+    };
+    QVERIFY2(header("Accept-Language").startsWith("de"), request.constData());
+    const QString agent = header("User-Agent");
+    QVERIFY2(agent.startsWith(QString("TalvorPlayer/%1 (").arg(APP_VERSION)), qPrintable(agent));
+    QVERIFY(agent.contains('@') && !agent.contains("Mozilla") && !agent.contains("Chrome"));
+}
+
+void TestMapWebView::opensLinksInTheBrowser()
+{
+    mWindow->setGeometry(100, 120, 320, 280);
+    mWindow->show();
+    QTRY_VERIFY(isOnScreen(mView));
+    waitForPage();
+    for (const char *scheme : {"https", "file"})
+        QDesktopServices::setUrlHandler(scheme, this, "openInBrowser");
+    const QUrl page = mView->page()->url();
+    const QString middleOfLink =
+        stateOf("const r = document.querySelector('.leaflet-control-attribution a')"
+                "    .getBoundingClientRect();"
+                "[(r.left + r.right) / 2, (r.top + r.bottom) / 2].map(Math.round).join()");
+    const QStringList offset = middleOfLink.split(',');
+    useMouseAt(place().topLeft() + QPoint(offset.value(0).toInt(), offset.value(1).toInt()),
+               {"click", "1"});
+    QTRY_COMPARE(mOpened, QStringList("https://www.openstreetmap.org/copyright"));
+    stateOf("const a = document.createElement('a'); a.href = 'https://example.org/b';"
+            "document.body.append(a); a.click(); 1");
+    QTRY_COMPARE(mOpened.size(), 2);
+    stateOf("a.href = 'file:///etc/hostname'; a.click(); 1");
+    stateOf("a.href = 'https://example.org/c'; a.click(); 1");
+    QTRY_COMPARE(mOpened.mid(1), (QStringList{"https://example.org/b", "https://example.org/c"}));
+    QCOMPARE(mView->page()->url(), page);
+    for (const char *scheme : {"https", "file"})
+        QDesktopServices::unsetUrlHandler(scheme);
+}
+
+/** No menu with what a browser can do, and no place to drop a file that would replace the map. */
+void TestMapWebView::offersNothingOfABrowser()
+{
+    mWindow->setGeometry(100, 120, 320, 280);
+    mWindow->show();
+    QTRY_VERIFY(isOnScreen(mView));
+    waitForPage();
+    stateOf("window.addEventListener('contextmenu', () => { window.isAsked = true; }); 1");
+    useMouseAt(place().center(), {"click", "3"});
+    QTRY_COMPARE(stateOf("String(window.isAsked)"), QString("true"));
+    stateOf("1"); // so that what the web engine tells the program has arrived
+    QVERIFY(!QApplication::activePopupWidget());
+
+    QMimeData file;
+    file.setUrls({QUrl::fromLocalFile("/etc/hostname")});
+    QDragEnterEvent enter(QPoint(100, 100), Qt::CopyAction, &file, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(mView->windowHandle(), &enter);
+    QVERIFY(!enter.isAccepted());
+}
+
+/** Two profiles of one program must not have one folder, so the other program is a lock only. */
+void TestMapWebView::oneProgramHasTheCache()
+{
+    const auto cacheOf = [](const MapWebView &map) {
+        return map.findChild<QWebEngineView *>()->page()->profile()->httpCacheType();
+    };
+    QCOMPARE(cacheOf(*mMap), QWebEngineProfile::DiskHttpCache);
+    QLockFile lock(mView->page()->profile()->cachePath() + "/lock");
+    QVERIFY(!lock.tryLock());
+    mWindow.reset();
+    QVERIFY(lock.tryLock());
+    Configuration::GetInstance()->setMaps(MapGoogle); // which is not waited for
+    QCOMPARE(cacheOf(MapWebView()), QWebEngineProfile::MemoryHttpCache);
+    lock.unlock();
+    QCOMPARE(cacheOf(MapWebView()), QWebEngineProfile::DiskHttpCache);
 }
 
 QTEST_MAIN(TestMapWebView)

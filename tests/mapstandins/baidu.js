@@ -10,6 +10,8 @@
 
     class Point {
         constructor(lng, lat) {
+            if (Math.abs(lng) > 180)
+                throw new RangeError('beyond the end of the map');
             this.lng = lng;
             this.lat = lat;
         }
@@ -52,16 +54,22 @@
     }
 
     class Map {
-        centerAndZoom({ lng, lat }) {
-            view = [new Point(lng - 0.01, lat - 0.01), new Point(lng + 0.01, lat + 0.01)];
+        /** The zoom is the number of views that go round the earth, not the provider's. */
+        centerAndZoom({ lng, lat }, zoom) {
+            const half = 180 / (zoom > 20 ? zoom : 20000);
+            const wrapped = (degrees) => degrees - 360 * Math.round(degrees / 360);
+            view = [new Point(wrapped(lng - half), lat - half),
+                new Point(wrapped(lng + half), lat + half)];
         }
 
         panTo(point) {
             this.centerAndZoom(point);
         }
 
-        setViewport(corners) {
-            view = corners;
+        getViewport([southWest, northEast]) {
+            const lng = (southWest.lng + northEast.lng) / 2;
+            const lat = (southWest.lat + northEast.lat) / 2;
+            return { center: new Point(lng, lat), zoom: 360 / (northEast.lng - southWest.lng) };
         }
 
         getBounds() {

@@ -42,8 +42,10 @@
 
     class LatLngBounds {
         constructor(southWest, northEast) {
+            const wrapped = (degrees) => degrees - 360 * Math.round(degrees / 360);
             this.view = {
-                west: southWest.lng, south: southWest.lat, east: northEast.lng, north: northEast.lat,
+                west: wrapped(southWest.lng), south: southWest.lat,
+                east: wrapped(northEast.lng), north: northEast.lat,
             };
         }
 
