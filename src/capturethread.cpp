@@ -3,6 +3,7 @@
 #include "capturethread.h"
 
 #include "configuration.h"
+#include "mp4parser.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
@@ -88,6 +89,13 @@ QString toolArguments(const QString &videoFile, qint64 positionMs, const QString
 {
     return QStringLiteral(" -ss %1 -i \"%2\" -t 1 -r 1 -q:v 2 -f image2 \"%3\"")
         .arg(timeOfDay(positionMs), quotable(videoFile), quotable(output));
+}
+
+/** When the first picture of a recording comes. The tool counts from there, the player from 0. */
+qint64 startMsOf(const QString &videoFile)
+{
+    const bool isAvi = videoFile.endsWith(QLatin1String(".avi"), Qt::CaseInsensitive);
+    return isAvi ? 0 : Mp4Parser(videoFile).startMs();
 }
 
 /** Waits for the tool to end, however long that takes, unless the thread is asked to end. */
@@ -188,7 +196,8 @@ void CaptureThread::capture(const Task &task, const QString &folder)
     const bool hasMarks = image.contains(QLatin1Char('%'));
     const QString written =
         hasMarks ? outputFile(QStringLiteral("."), QString(), timeStamp) : image;
-    const QString arguments = toolArguments(task.videoFile, task.positionMs, written);
+    const qint64 positionMs = qMax<qint64>(0, task.positionMs - startMsOf(task.videoFile));
+    const QString arguments = toolArguments(task.videoFile, positionMs, written);
     qDebug().noquote() << "captureCmd:" << program + arguments;
     const bool hasTool = runTool(program, arguments, hasMarks ? folder : QString());
     if (hasMarks)

@@ -23,6 +23,9 @@ constexpr int DecodeH265 = 2;
 // Longer than any handler name, and still nothing to a computer's memory.
 constexpr quint64 MaxHandlerNameSize = 1024 * 1024;
 
+// A recording that is said to begin after more than a day begins at once.
+constexpr quint64 MaxStartS = 24 * 60 * 60;
+
 struct HandlerType
 {
     const char *code;
@@ -206,7 +209,10 @@ void Mp4Parser::readTrakBox(quint64 payload)
     int trackWidth = 0;
     int trackHeight = 0;
     unsigned creationTime = 0;
+    qint64 startMs = 0;
     walk(payload, [&](const QString &type) {
+        if (type == QLatin1String("edts"))
+            startMs = emptyEditMs(boxPayload);
         if (type == QLatin1String("mdia"))
             readMdiaBox(boxPayload, kind);
         else if (type == QLatin1String("tkhd"))
@@ -215,6 +221,8 @@ void Mp4Parser::readTrakBox(quint64 payload)
             return false;
         return true;
     });
+    if (kind == TrakType::Video || kind == TrakType::Sound)
+        mStartMs = mStartMs == NoStart ? startMs : std::min(mStartMs, startMs);
     if (kind != TrakType::Video || trackWidth <= width)
         return;
     width = trackWidth;
@@ -223,6 +231,26 @@ void Mp4Parser::readTrakBox(quint64 payload)
     // Cameras write their own clock, not UTC.
     createDate = QDateTime(QDate(1904, 1, 1), QTime(0, 0)).addSecs(qint64(creationTime));
     frameRate = sampleFrameRate;
+}
+
+/** How long the empty edit is with which the edit list at the current position begins; 0 for none.
+ *  Leaves the position alone. */
+qint64 Mp4Parser::emptyEditMs(quint64 payload)
+{
+    constexpr int ListSize = 36; // header, version and flags, count, and a first edit of 64 bits
+    constexpr int FirstEdit = 16;
+    if (payload < FirstEdit + 12 || movieHeader.timeScale == 0)
+        return 0;
+    const char *list = file.bytesAt(position(), ListSize);
+    const bool isWide = list[BoxHeaderSize] == 1;
+    const quint64 length =
+        isWide ? qFromBigEndian<quint64>(list + FirstEdit) : uint32At(list, FirstEdit);
+    const bool isEmpty = uint32At(list, FirstEdit + (isWide ? 8 : 4)) == 0xFFFFFFFF;
+    const bool isList = qstrncmp(list + 4, "elst", 4) == 0 && uint32At(list, 12) > 0;
+    const quint64 seconds = length / movieHeader.timeScale;
+    if (!isList || !isEmpty || seconds > MaxStartS)
+        return 0;
+    return qint64(length * 1000 / movieHeader.timeScale);
 }
 
 void Mp4Parser::readTkhdBox(quint64, quint64, int &trackWidth, int &trackHeight,

@@ -26,6 +26,10 @@ public:
                        KeepRunning keepRunning = nullptr);
     ~Mp4Parser() override;
 
+    /** When the first picture or sound comes, in milliseconds: what players show nothing before,
+     *  and other tools count as the beginning. From the empty edit that a track may begin with. */
+    qint64 startMs() const { return mStartMs == NoStart ? 0 : mStartMs; }
+
 private:
     /** The fields of the "mvhd" box, version 0. */
     struct MovieHeader
@@ -56,6 +60,7 @@ private:
     void readGpsBox();
     void readMvhdBox(quint64 payload, quint64 size);
     void readTrakBox(quint64 payload);
+    qint64 emptyEditMs(quint64 payload);
     void readTkhdBox(quint64 payload, quint64 size, int &trackWidth, int &trackHeight,
                      unsigned &creationTime);
     void readMdiaBox(quint64 payload, TrakType &kind);
@@ -70,6 +75,9 @@ private:
     void setTelemetry(int format, quint64 tableOffset, unsigned count);
     void probeFreeGps(quint64 chunkTable, unsigned chunkCount);
 
+    static constexpr qint64 NoStart = -1;
+
+    qint64 mStartMs = NoStart; ///< of the earliest track so far
     quint64 boxSize = 0;
     quint64 boxPayload = 0;
     qint32 sampleDecode = 0; ///< of the last "stsd"; carries over to the next track

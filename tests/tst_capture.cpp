@@ -171,6 +171,7 @@ private slots:
     void toolCannotBlock();
     void timeStampsDiffer();
 
+    void recordingThatBeginsLate();
     void imagesOfThePlayer();
     void widgetGoesWhileCapturing();
     void programEndsWhileCapturing_data();
@@ -382,6 +383,17 @@ void tst_Capture::timeStampsDiffer()
     QStringList stamps = linesWith("start capture");
     QCOMPARE(stamps.size(), Tasks);
     QCOMPARE(stamps.removeDuplicates(), 0);
+}
+
+/** Its first picture comes after five seconds, of which the player shows nothing. */
+void tst_Capture::recordingThatBeginsLate()
+{
+    const QString late = mFolder.filePath(QStringLiteral("late.mp4"));
+    const QString arguments =
+        QStringLiteral("-v error -y -itsoffset 5 -i %1 -c copy %2").arg(mFront, late);
+    QCOMPARE(QProcess::execute(QStringLiteral("ffmpeg"), arguments.split(QLatin1Char(' '))), 0);
+    QVERIFY(capture(late, {7500}));
+    QCOMPARE(imagesIn(mShots), QStringList({"front 2"}));
 }
 
 void tst_Capture::imagesOfThePlayer()
