@@ -45,6 +45,16 @@ QRect placeOf(const QByteArray &window)
             number("Height:")};
 }
 
+QByteArray textOf(const QRect &rect)
+{
+    return QStringLiteral("%1 x %2 at %3, %4")
+        .arg(rect.width())
+        .arg(rect.height())
+        .arg(rect.x())
+        .arg(rect.y())
+        .toLatin1();
+}
+
 } // namespace
 
 /** The program itself, started as a user or a desktop does, in a home that is new. */
@@ -182,10 +192,10 @@ void tst_Start::opensOnTheScreen()
     start(environment);
     outputOf("xprop", QStringLiteral("-root -remove RESOURCE_MANAGER"));
     const QRect place = placeOf(managedWindows().value(0));
-    QVERIFY2(Screen.contains(place), QTest::toString(place));
+    QVERIFY2(Screen.contains(place), textOf(place).constData());
     const QSize size = QSize(921, 628).boundedTo(QSize(1600, 1000) / scale) * scale;
     QVERIFY2(qAbs(place.width() - size.width()) <= 2 && qAbs(place.height() - size.height()) <= 2,
-             QTest::toString(place));
+             textOf(place).constData());
     QCOMPARE(end(SIGTERM), 0);
 }
 
