@@ -27,7 +27,6 @@ void PendingStart::request(const RowData *row)
     const bool isWaiting = std::exchange(mRow, row);
     if (isWaiting)
         return;
-    mIsUnloaded = false;
     mTurn.start(0);
     mPatience.start(PatienceMs);
 }
@@ -50,11 +49,9 @@ void PendingStart::advance()
 {
     if (!mRow || (!mArea->isSettled() && mPatience.isActive()))
         return;
-    if (!mIsUnloaded) {
+    if (mArea->unloadOne()) {
         // What the backend has still to tell of the recording before must not be taken for news of
         // the next one.
-        mIsUnloaded = true;
-        mArea->unload();
         mTurn.start(0);
         return;
     }

@@ -39,7 +39,6 @@ private:
 
     PlayAreaManager *mArea = nullptr;
     const RowData *mRow = nullptr;
-    bool mIsUnloaded = false;
     QTimer mTurn;     // fires when the events at hand are done
     QTimer mPatience; // with a backend that does not settle
 };

@@ -137,11 +137,15 @@ void PlayAreaManager::setResourceData(const RowData *main, const RowData *relate
     mSecondEndMs = 0;
 }
 
-void PlayAreaManager::unload()
+bool PlayAreaManager::unloadOne()
 {
-    mMain->loader()->unload();
-    if (mSecond)
-        mSecond->loader()->unload();
+    for (PlayerWidget *widget : {mMain, mSecond}) {
+        if (!widget || widget->player()->media().isNull())
+            continue;
+        widget->loader()->unload();
+        return true;
+    }
+    return false;
 }
 
 bool PlayAreaManager::isSettled() const

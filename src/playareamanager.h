@@ -36,9 +36,10 @@ public:
     /** Loads the recordings without starting them. @p related must not be null with two players. */
     void setResourceData(const RowData *main, const RowData *related);
 
-    /** Takes the recordings away from the players, so that nothing of them is still under way when
-     *  the next ones are loaded. The rows stay set. */
-    void unload();
+    /** Takes the recording away from a player that has one, so that nothing of it is still under
+     *  way when the next one is loaded; the rows stay set. Returns false when none is left. One at
+     *  a time, as each keeps the window waiting for some 50 ms. */
+    bool unloadOne();
     /** Whether the media backend has done its work on what was loaded. Loading something else
      *  before that may make it abort the program. */
     bool isSettled() const;
