@@ -7,13 +7,15 @@
 #include <QEvent>
 #include <QRegion>
 #include <QScreen>
-#include <QTimer>
 #include <QWindow>
 
 namespace {
 
 // Where less of a window is on the screen, some window managers move it.
 constexpr int SmallestStripPx = 32;
+// Compositing managers take up to a second to show a window in a new size.
+constexpr int PaintIntervalMs = 200;
+constexpr int PaintsAfterCovering = 8;
 
 } // namespace
 
@@ -23,6 +25,9 @@ OverlayWindow::OverlayWindow(QWidget *overlay, QWidget *place, QObject *parent)
     mOverlay->setWindowFlags(Qt::Tool | Qt::FramelessWindowHint);
     mOverlay->setAttribute(Qt::WA_MacAlwaysShowToolWindow);
     mOverlay->setAttribute(Qt::WA_ShowWithoutActivating);
+    mPaintTimer.setSingleShot(true);
+    mPaintTimer.setInterval(PaintIntervalMs);
+    connect(&mPaintTimer, &QTimer::timeout, this, &OverlayWindow::paintAgain);
 }
 
 void OverlayWindow::cover()
@@ -34,6 +39,8 @@ void OverlayWindow::cover()
     }
     mOverlay->setGeometry(visible);
     show();
+    mPaintsLeft = PaintsAfterCovering;
+    mPaintTimer.start();
 }
 
 /** Only behind the window below: a window manager that hears of the overlay first puts it below. */
@@ -79,6 +86,18 @@ void OverlayWindow::makeWindow()
     mOverlay->winId();
     mOverlay->windowHandle()->setFlag(Qt::WindowDoesNotAcceptFocus);
     mOverlay->windowHandle()->installEventFilter(this);
+}
+
+/** A compositing manager may resize the window only after its content has been painted in the new
+ *  size, and throw that away. */
+void OverlayWindow::paintAgain()
+{
+    const QList<QWidget *> parts = mOverlay->findChildren<QWidget *>();
+    for (QWidget *part : parts)
+        part->update();
+    mOverlay->update();
+    if (--mPaintsLeft > 0)
+        mPaintTimer.start();
 }
 
 /** Empty if the overlay cannot lie there. */

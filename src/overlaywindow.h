@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QObject>
+#include <QTimer>
 
 class QRect;
 class QWidget;
@@ -37,8 +38,11 @@ public:
 
 private:
     void makeWindow();
+    void paintAgain();
     QRect visiblePlace() const;
 
     QWidget *mOverlay;
     QWidget *mPlace;
+    QTimer mPaintTimer;
+    int mPaintsLeft = 0; // since the overlay was laid over its place
 };
