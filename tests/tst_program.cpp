@@ -103,6 +103,7 @@ private slots:
     void droppedRecordingPlays();
     void openDialogPlaysTheFirst();
     void quickNextLoadsTheLastOnly();
+    void stoppingWhileTheNextOneWaits();
     void manyDroppedLoadTheLastOnly();
     void unplayableOnesArePassed();
     void showsTheFirstSecondAndForgetsTheLastRecording();
@@ -534,6 +535,24 @@ void tst_Program::quickNextLoadsTheLastOnly()
     QTRY_COMPARE(text("lbl_FileName"), QStringLiteral("copy10.mp4"));
     QTRY_VERIFY(player()->position() > 500);
     QVERIFY(!wasDisturbed);
+}
+
+/** Where the list was stopped does not depend on how quickly it was gone through. */
+void tst_Program::stoppingWhileTheNextOneWaits()
+{
+    const QString last = mFolder.filePath(QStringLiteral("last.mp4"));
+    QFile::copy(path("one.mp4"), last);
+    openArguments({path("one.mp4"), last});
+    QTRY_VERIFY(player()->position() > 0);
+    click("btn_Next");
+    click("btn_Next"); // past the end of the list, which stops
+    QCOMPARE(area()->state(), QMediaPlayer::StoppedState);
+    QTRY_COMPARE(area()->mainRow()->id, 1);
+    QTRY_COMPARE(player()->mediaStatus(), QMediaPlayer::LoadedMedia);
+    QCOMPARE(area()->state(), QMediaPlayer::StoppedState);
+    click("btn_Previous");
+    QTRY_VERIFY(player()->position() > 0);
+    QCOMPARE(text("lbl_FileName"), QStringLiteral("one.mp4"));
 }
 
 void tst_Program::manyDroppedLoadTheLastOnly()
