@@ -8,6 +8,7 @@
 #include "mainwindows.h"
 #include "mapwebview.h"
 #include "mediafile.h"
+#include "pendingstart.h"
 #include "playareamanager.h"
 #include "rowdata.h"
 #include "speedtray.h"
@@ -104,6 +105,7 @@ private slots:
     void openDialogPlaysTheFirst();
     void quickNextLoadsTheLastOnly();
     void stoppingWhileTheNextOneWaits();
+    void startsDoNotNest();
     void manyDroppedLoadTheLastOnly();
     void unplayableOnesArePassed();
     void showsTheFirstSecondAndForgetsTheLastRecording();
@@ -553,6 +555,23 @@ void tst_Program::stoppingWhileTheNextOneWaits()
     click("btn_Previous");
     QTRY_VERIFY(player()->position() > 0);
     QCOMPARE(text("lbl_FileName"), QStringLiteral("one.mp4"));
+}
+
+void tst_Program::startsDoNotNest()
+{
+    const RowData row;
+    PendingStart start(area());
+    int depth = 0;
+    QVector<int> depths;
+    connect(&start, &PendingStart::due, this, [&] {
+        depths.append(++depth);
+        if (depths.size() < 3)
+            start.request(&row);
+        QTest::qWait(100);
+        --depth;
+    });
+    start.request(&row);
+    QTRY_COMPARE(depths, QVector<int>({1, 1, 1}));
 }
 
 void tst_Program::manyDroppedLoadTheLastOnly()
