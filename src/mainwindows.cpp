@@ -72,6 +72,7 @@ MainWindows::~MainWindows()
 {
     // Waiting for the workers processes events, which must not reach this window any more.
     mUi->wgt_PlayArea->disconnect(this);
+    mIsStopped = true;
     mPendingStart->drop();
     mUi->wgt_PlayArea->stop();
     mUi->wgt_PlayArea->forgetRows();
@@ -171,7 +172,6 @@ void MainWindows::onStop()
 {
     mIsStopped = true;
     giveUpRound();
-    mPendingStart->drop();
     mDisplays->clearGauges();
     mUi->wgt_PlayArea->stop();
     mUi->wgt_ControlPanel->reinit();

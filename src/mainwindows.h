@@ -65,6 +65,8 @@ public slots:
     void openFile();
     /** @param filePath the recording's URL as text. */
     void onDropFile(const QString &filePath);
+    /** A recording that waits to be started is still loaded, but not played: previous and next are
+     *  what is beside it in the list. */
     void onStop();
     void playClicked();
     void previousClicked();

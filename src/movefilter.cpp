@@ -95,7 +95,8 @@ bool MoveFilter::isMeant() const
 void MoveFilter::restoreUnderPointer()
 {
     const QSize size = mMoveWidget->normalGeometry().size();
-    mPressPos.setX(mPressPos.x() * size.width() / mMoveWidget->width());
+    mPressPos = {mPressPos.x() * size.width() / mMoveWidget->width(),
+                 mPressPos.y() * size.height() / mMoveWidget->height()};
     mMoveWidget->showNormal();
     mMoveWidget->setGeometry(QRect(QCursor::pos() - mPressPos, size));
 }

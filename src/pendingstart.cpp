@@ -47,7 +47,7 @@ void PendingStart::onSettled()
 
 void PendingStart::advance()
 {
-    if (!mRow || (!mArea->isSettled() && mPatience.isActive()))
+    if (!mRow || mIsBeginning || (!mArea->isSettled() && mPatience.isActive()))
         return;
     if (mArea->unloadOne()) {
         // What the backend has still to tell of the recording before must not be taken for news of
@@ -57,5 +57,8 @@ void PendingStart::advance()
     }
     const RowData *row = mRow;
     drop();
+    mIsBeginning = true;
     emit due(row);
+    mIsBeginning = false;
+    onSettled(); // for what was requested meanwhile
 }

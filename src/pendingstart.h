@@ -12,6 +12,8 @@ struct RowData;
  * The recording that is to be started next. It waits until the events at hand are done, so that of
  * many starts in a row the last one is loaded only, and until the media backend has settled, which
  * is safe to disturb only then; then it is due. A later request takes the place of a waiting one.
+ * Whoever begins a recording may process events: the next one waits until that is done, else each
+ * of many quick starts would begin within the one before, as deep as the stack is.
  *
  * The play area is not owned and must live longer, as must the rows. GUI thread only.
  */
@@ -39,6 +41,7 @@ private:
 
     PlayAreaManager *mArea = nullptr;
     const RowData *mRow = nullptr;
+    bool mIsBeginning = false;
     QTimer mTurn;     // fires when the events at hand are done
     QTimer mPatience; // with a backend that does not settle
 };

@@ -438,9 +438,8 @@ void PlayAreaManager::destroySecond()
 {
     if (!mSecond)
         return;
-    // Its full screen ends with it.
-    if (mSecond->isFullScreen())
-        emit fullScreenChanged(false);
+    // Its full screen ends with it, in the orderly way, which gives the keyboard back.
+    mSecond->leaveFullScreen();
     mPlayersLayout->removeWidget(mSecond);
     // Not at once: this may run inside one of its own events, or in the end-of-media handling of
     // the other player.

@@ -8,6 +8,7 @@
 #include "mainwindows.h"
 #include "mapwebview.h"
 #include "mediafile.h"
+#include "pendingstart.h"
 #include "playareamanager.h"
 #include "rowdata.h"
 #include "speedtray.h"
@@ -103,6 +104,8 @@ private slots:
     void droppedRecordingPlays();
     void openDialogPlaysTheFirst();
     void quickNextLoadsTheLastOnly();
+    void stoppingWhileTheNextOneWaits();
+    void startsDoNotNest();
     void manyDroppedLoadTheLastOnly();
     void unplayableOnesArePassed();
     void showsTheFirstSecondAndForgetsTheLastRecording();
@@ -534,6 +537,41 @@ void tst_Program::quickNextLoadsTheLastOnly()
     QTRY_COMPARE(text("lbl_FileName"), QStringLiteral("copy10.mp4"));
     QTRY_VERIFY(player()->position() > 500);
     QVERIFY(!wasDisturbed);
+}
+
+/** Where the list was stopped does not depend on how quickly it was gone through. */
+void tst_Program::stoppingWhileTheNextOneWaits()
+{
+    const QString last = mFolder.filePath(QStringLiteral("last.mp4"));
+    QFile::copy(path("one.mp4"), last);
+    openArguments({path("one.mp4"), last});
+    QTRY_VERIFY(player()->position() > 0);
+    click("btn_Next");
+    click("btn_Next"); // past the end of the list, which stops
+    QCOMPARE(area()->state(), QMediaPlayer::StoppedState);
+    QTRY_COMPARE(area()->mainRow()->id, 1);
+    QTRY_COMPARE(player()->mediaStatus(), QMediaPlayer::LoadedMedia);
+    QCOMPARE(area()->state(), QMediaPlayer::StoppedState);
+    click("btn_Previous");
+    QTRY_VERIFY(player()->position() > 0);
+    QCOMPARE(text("lbl_FileName"), QStringLiteral("one.mp4"));
+}
+
+void tst_Program::startsDoNotNest()
+{
+    const RowData row;
+    PendingStart start(area());
+    int depth = 0;
+    QVector<int> depths;
+    connect(&start, &PendingStart::due, this, [&] {
+        depths.append(++depth);
+        if (depths.size() < 3)
+            start.request(&row);
+        QTest::qWait(100);
+        --depth;
+    });
+    start.request(&row);
+    QTRY_COMPARE(depths, QVector<int>({1, 1, 1}));
 }
 
 void tst_Program::manyDroppedLoadTheLastOnly()

@@ -106,7 +106,9 @@ private slots:
     void managerEndsFullScreen();
     void escapeReachesTheMainWindow();
     void closingFullScreen();
+    void fullScreenEndsWithItsPicture();
     void draggingTheMaximisedWindow();
+    void draggingTheMaximisedWindowByItsFarCorner();
     void otherButtonsDoNotDrag();
 
 private:
@@ -131,7 +133,7 @@ void tst_Windows::initTestCase()
     QApplication::setQuitOnLastWindowClosed(false); // there is a window for each test
     QCoreApplication::setOrganizationName(QStringLiteral("Quellfern"));
     QCoreApplication::setApplicationName(QStringLiteral("Talvor Player V1.6 20200828"));
-    for (const char *name : {"MOVA0001.MP4", "MOVB0001.MP4"})
+    for (const char *name : {"MOVA0001.MP4", "MOVB0001.MP4", "single.mp4"})
         QVERIFY(makeMediaFile(mFolder.filePath(QLatin1String(name)), 20));
 }
 
@@ -274,6 +276,19 @@ void tst_Windows::closingFullScreen()
     QCOMPARE(Configuration::GetInstance()->getMainwindowsRect(), StoredRect);
 }
 
+/** The next recording has no second picture. */
+void tst_Windows::fullScreenEndsWithItsPicture()
+{
+    playPair();
+    clickAt(onScreen(area()->secondPlayer()).center(), 2);
+    QTRY_VERIFY(area()->secondPlayer()->isFullScreen() && area()->secondPlayer()->isActiveWindow());
+    mWindow->openRecordings({QUrl::fromLocalFile(mFolder.filePath(QStringLiteral("single.mp4")))});
+    QTRY_VERIFY(!area()->secondPlayer() && area()->state() == QMediaPlayer::PlayingState);
+    QTRY_VERIFY(mWindow->isActiveWindow());
+    xdotool(QStringLiteral("key space"));
+    QTRY_COMPARE(area()->state(), QMediaPlayer::PausedState);
+}
+
 void tst_Windows::draggingTheMaximisedWindow()
 {
     clickAt(StoredRect.topLeft() + QPoint(500, 3), 2); // on the title bar
@@ -284,15 +299,29 @@ void tst_Windows::draggingTheMaximisedWindow()
         QCOMPARE(mWindow->geometry(), WholeScreen);
     }
     // Half way along the bar, so that it is half way along the restored one.
-    xdotool(QStringLiteral("mousemove 800 3 mousedown 1 mousemove_relative 40 50"));
-    QTRY_COMPARE(mWindow->geometry(), QRect(QPoint(840 - 500, 50), StoredRect.size()));
+    xdotool(QStringLiteral("mousemove 800 10 mousedown 1 mousemove_relative 40 50"));
+    QTRY_COMPARE(mWindow->geometry(), QRect(QPoint(840 - 500, 60 - 7), StoredRect.size()));
     QVERIFY(!mWindow->isMaximized());
     xdotool(QStringLiteral("mousemove_relative 10 20 mouseup 1"));
-    const QRect dropped(QPoint(350, 70), StoredRect.size());
+    const QRect dropped(QPoint(350, 73), StoredRect.size());
     QTRY_COMPARE(mWindow->geometry(), dropped);
     mWindow->close();
     QCOMPARE(Configuration::GetInstance()->getMainwindowsRect(), dropped);
     QCOMPARE(Configuration::GetInstance()->getMainwindowsIsMaximize(), false);
+}
+
+/** Which the normal window would not reach. */
+void tst_Windows::draggingTheMaximisedWindowByItsFarCorner()
+{
+    clickAt(StoredRect.topLeft() + QPoint(500, 3), 2);
+    QTRY_COMPARE(mWindow->geometry(), WholeScreen);
+    const QPoint place = onScreen(child<QWidget>("wgt_Direction")).center();
+    xdotool(QStringLiteral("mousemove %1 %2 mousedown 1 mousemove_relative 40 50")
+                .arg(place.x())
+                .arg(place.y()));
+    QTRY_COMPARE(mWindow->size(), StoredRect.size());
+    QTRY_VERIFY(mWindow->geometry().contains(place + QPoint(40, 50)));
+    xdotool(QStringLiteral("mouseup 1"));
 }
 
 void tst_Windows::otherButtonsDoNotDrag()
