@@ -11,6 +11,7 @@
 #include <QProcess>
 #include <QScreen>
 #include <QSignalSpy>
+#include <QTcpServer>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -103,6 +104,7 @@ private slots:
     void unplayableMainPlaysNothing();
     void repeatsALostSeek();
     void leavesPressesAndPaintsAfterErrors();
+    void givesUpLoading();
     void stopHolds_data();
     void stopHolds();
 
@@ -494,6 +496,21 @@ void tst_Playback::unplayableMainPlaysNothing()
     emit mArea->mainPlayer()->loader()->failed(); // in the middle of it
     QCOMPARE(secondOf(*mArea)->state(), QMediaPlayer::StoppedState);
     QVERIFY(comesToRest(*mArea));
+}
+
+/** A server that never answers keeps the player loading, as does many a damaged file. */
+void tst_Playback::givesUpLoading()
+{
+    QTcpServer silent;
+    QVERIFY(silent.listen(QHostAddress::LocalHost));
+    RowData endless;
+    endless.url = QUrl(QStringLiteral("http://127.0.0.1:%1/a.mp4").arg(silent.serverPort()));
+    QSignalSpy failed(mArea.get(), &PlayAreaManager::failed);
+    mArea->setResourceData(&endless, nullptr);
+    mArea->play();
+    QVERIFY(!mArea->isSettled());
+    QTRY_COMPARE_WITH_TIMEOUT(failed.size(), 1, 10000);
+    QVERIFY(mArea->isSettled());
 }
 
 void tst_Playback::stopHolds_data()
