@@ -42,7 +42,8 @@ void MediaLoader::unload()
 
 void MediaLoader::play()
 {
-    if (mHasFailed)
+    // Without a recording, only the news of that is awaited, or the recording that comes again.
+    if (mHasFailed || mPlayer->media().isNull())
         return;
     cancelTimers();
     mSincePlay.start();

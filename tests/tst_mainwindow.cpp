@@ -40,6 +40,14 @@ namespace {
 const QString Title = QStringLiteral("Talvor Player V1.6 20200828");
 const QRect DefaultRect(483, 166, 921, 628);
 
+/** What the computer can do. */
+struct Capability
+{
+    bool decodesH265;
+    bool decodesH264;
+    bool isFast;
+};
+
 /** Real input, through the X server and the window manager. */
 void xdotool(const QString &arguments)
 {
@@ -49,6 +57,8 @@ void xdotool(const QString &arguments)
 }
 
 } // namespace
+
+Q_DECLARE_METATYPE(Capability)
 
 /** Frame and title bar of the main window, under a window manager. */
 class tst_MainWindow : public QObject
@@ -62,6 +72,7 @@ private slots:
     void restoresGeometry_data();
     void restoresGeometry();
     void confirmsGeometryOnce();
+    void staysReachableOnASmallScreen();
     void closingStoresGeometry();
     void maximizes_data();
     void maximizes();
@@ -163,6 +174,15 @@ void tst_MainWindow::confirmsGeometryOnce()
     mWindow->show();
     QVERIFY(QTest::qWaitForWindowActive(mWindow.get()));
     QCOMPARE(mWindow->geometry(), moved);
+}
+
+void tst_MainWindow::staysReachableOnASmallScreen()
+{
+    mWindow = std::make_unique<MainWindows>();
+    mWindow->setMinimumSize(1700, 1100);
+    mWindow->show();
+    QVERIFY(QTest::qWaitForWindowActive(mWindow.get()));
+    QTRY_COMPARE(mWindow->geometry(), QRect(0, 0, 1700, 1100)); // its title at least
 }
 
 void tst_MainWindow::closingStoresGeometry()
@@ -478,26 +498,33 @@ void tst_MainWindow::warnsOfLargeRecordings_data()
 {
     QTest::addColumn<QByteArray>("coding");
     QTest::addColumn<QSize>("size");
-    QTest::addColumn<bool>("isCapable");
+    QTest::addColumn<Capability>("capability");
     QTest::addColumn<QString>("warning"); // what it ends with; empty for none
     const QSize large(3840, 2160);
-    QTest::newRow("large H.265") << QByteArray("hvc1") << large << false << "H.265 (HEVC).";
-    QTest::newRow("large H.264") << QByteArray("avc1") << large << false << "H.264 (AVC).";
-    QTest::newRow("large, other") << QByteArray("vp09") << large << false << "";
-    QTest::newRow("four million") << QByteArray("hvc1") << QSize(2500, 1600) << false << "";
-    QTest::newRow("one more") << QByteArray("hvc1") << QSize(3809, 1051) << false
+    const Capability none{false, false, false};
+    QTest::newRow("large H.265") << QByteArray("hvc1") << large << none << "H.265 (HEVC).";
+    QTest::newRow("large H.264") << QByteArray("avc1") << large << none << "H.264 (AVC).";
+    QTest::newRow("large, other") << QByteArray("vp09") << large << none << "";
+    QTest::newRow("four million") << QByteArray("hvc1") << QSize(2500, 1600) << none << "";
+    QTest::newRow("one more") << QByteArray("hvc1") << QSize(3809, 1051) << none
                               << "H.265 (HEVC)."; // 4003259
-    QTest::newRow("capable") << QByteArray("hvc1") << large << true << "";
+    QTest::newRow("capable") << QByteArray("hvc1") << large << Capability{true, false, true} << "";
+    QTest::newRow("of the other") << QByteArray("avc1") << large << Capability{true, false, true}
+                                  << "H.264 (AVC).";
+    QTest::newRow("weak processor")
+        << QByteArray("hvc1") << large << Capability{true, true, false} << "H.265 (HEVC).";
 }
 
 void tst_MainWindow::warnsOfLargeRecordings()
 {
     QFETCH(QByteArray, coding);
     QFETCH(QSize, size);
-    QFETCH(bool, isCapable);
+    QFETCH(Capability, capability);
     QFETCH(QString, warning);
     ComputeInfo *computer = ComputeInfo::GetInstance();
-    computer->isHDDecodeH264 = computer->isHDDecodeH265 = computer->mCpuLevelH = isCapable;
+    computer->isHDDecodeH265 = capability.decodesH265;
+    computer->isHDDecodeH264 = capability.decodesH264;
+    computer->mCpuLevelH = capability.isFast;
     computer->hardwareInfo = QStringLiteral("Some Graphics 4000");
     const QTemporaryDir folder;
     RecordingWriter writer;
