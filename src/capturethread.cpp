@@ -92,10 +92,10 @@ QString toolArguments(const QString &videoFile, qint64 positionMs, const QString
 }
 
 /** When the first picture of a recording comes. The tool counts from there, the player from 0. */
-qint64 startMsOf(const QString &videoFile)
+qint64 startMsOf(const QString &videoFile, const std::atomic<bool> &isWanted)
 {
     const bool isAvi = videoFile.endsWith(QLatin1String(".avi"), Qt::CaseInsensitive);
-    return isAvi ? 0 : Mp4Parser(videoFile).startMs();
+    return isAvi ? 0 : Mp4Parser(videoFile, nullptr, &isWanted).startMs();
 }
 
 /** Waits for the tool to end, however long that takes, unless the thread is asked to end. */
@@ -143,6 +143,7 @@ CaptureThread::CaptureThread(QObject *parent) : QThread(parent)
 
 CaptureThread::~CaptureThread()
 {
+    mIsWanted = false;
     requestInterruption();
     wait();
 }
@@ -196,7 +197,8 @@ void CaptureThread::capture(const Task &task, const QString &folder)
     const bool hasMarks = image.contains(QLatin1Char('%'));
     const QString written =
         hasMarks ? outputFile(QStringLiteral("."), QString(), timeStamp) : image;
-    const qint64 positionMs = qMax<qint64>(0, task.positionMs - startMsOf(task.videoFile));
+    const qint64 positionMs =
+        qMax<qint64>(0, task.positionMs - startMsOf(task.videoFile, mIsWanted));
     const QString arguments = toolArguments(task.videoFile, positionMs, written);
     qDebug().noquote() << "captureCmd:" << program + arguments;
     const bool hasTool = runTool(program, arguments, hasMarks ? folder : QString());

@@ -7,6 +7,8 @@
 #include <QString>
 #include <QThread>
 
+#include <atomic>
+
 #include "screenshotresult.h"
 
 /**
@@ -53,7 +55,8 @@ private:
     Task takeTask();
     void capture(const Task &task, const QString &folder);
 
-    QMutex mMutex; // guards the two below, never while the tool runs
+    std::atomic<bool> mIsWanted{true}; // the image that is being made
+    QMutex mMutex;                     // guards the two below, never while the tool runs
     QString mVideoFile;
     QList<qint64> mPositionsMs;
 };

@@ -17,6 +17,8 @@
 
 namespace {
 
+constexpr int MaxClearings = 2;
+
 /** The hemisphere letter carries the sign. */
 QString coordinateText(char reference, double degrees)
 {
@@ -66,7 +68,13 @@ void TelemetryDisplays::clearRecording()
 void TelemetryDisplays::clearAll()
 {
     clearGauges();
+    // A later one comes while an earlier one waits, and clears the map for both. Of a third one
+    // there is nothing left to do.
+    if (mClearings >= MaxClearings)
+        return;
+    ++mClearings;
     mWidgets.map->clearAll();
+    --mClearings;
 }
 
 bool TelemetryDisplays::fillChart(const GyroCurve &curve)

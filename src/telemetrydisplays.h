@@ -55,5 +55,6 @@ public:
 
 private:
     Widgets mWidgets;
-    int mFillings = 0; // a later one takes over
+    int mFillings = 0;  // a later one takes over
+    int mClearings = 0; // of the map, one within the other
 };
