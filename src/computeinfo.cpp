@@ -20,7 +20,8 @@ int coreDigit(const QString &processor)
     return processor.mid(processor.indexOf(CoreMark) + CoreMark.size(), 1).toInt();
 }
 
-// The wording of these lines, "Core(M)" and "interl" and the leading blanks included, is required.
+// Who searches a log for these lines finds them by their wording, with "Core(M)", "interl" and the
+// leading blanks: it does not change.
 bool isHighIntel(const QString &processor)
 {
     if (!processor.contains(CoreMark)) {
@@ -100,7 +101,8 @@ QString ComputeInfo::getAMDDcardInformation()
     return mHardware->adapterDescriptions(AdapterVendor::Amd);
 }
 
-// Any AMD processor counts as high, whatever its generation: required.
+// The names of AMD processors do not tell their generation by one digit, as Intel's do. Any of them
+// counts as high, and the adapter decides.
 void ComputeInfo::updateCpuLevel(const QString &processor)
 {
     if (processor.contains(QLatin1String("Intel"))) {
@@ -113,8 +115,8 @@ void ComputeInfo::updateCpuLevel(const QString &processor)
     }
 }
 
-// Every list is required to search the texts of all vendors, even after an earlier one has matched,
-// and a flag once set is never taken back.
+// A computer with adapters of two vendors decodes what either of them can. So every list searches
+// the texts of all vendors, and a flag once set is never taken back.
 void ComputeInfo::updateDecodeFlags(const QString &adapters)
 {
     const DecodeModels models = decodeModels();

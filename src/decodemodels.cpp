@@ -6,8 +6,8 @@
 
 namespace {
 
-// The entries are required as they stand, with their leading blanks, their duplicates and the
-// spelling "Tesia": what a computer is trusted with depends on them letter by letter.
+// A tidier list would trust other computers. Leading blanks, duplicates and the spelling "Tesia"
+// stay: what a computer is trusted with depends on them letter by letter.
 
 const char *const IntelH264Models[] = {
     "Media Accelerator 3600 Series",

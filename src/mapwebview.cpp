@@ -52,7 +52,8 @@ struct MapCentre
     double latitude;
 };
 
-// Likewise. Both Chinese variants share one centre, and the third is in the south, as required.
+// Likewise: what the map shows before a recording has brought a route. Both Chinese variants share
+// one centre; the third, English, lies south of the equator.
 constexpr MapCentre Centres[] = {
     {116.3753, 39.9},
     {116.3753, 39.9},

@@ -153,7 +153,8 @@ void Mp4Parser::readRootBox()
     });
 }
 
-// Required: the walk goes on from the payload of "gps0" instead of stepping over it.
+// The walk goes on from the payload of "gps0" instead of stepping over it: a walk that stepped over
+// it would find other boxes, and so other telemetry, in files whose "gps0" has an invented size.
 void Mp4Parser::readGps0Box(quint64 size)
 {
     const quint64 count = (size - BoxHeaderSize) / Gps0BlockDistance;
@@ -176,7 +177,7 @@ void Mp4Parser::readMoovBox(quint64 payload)
     });
 }
 
-// Required: the walk goes on from the table of "gps " instead of stepping over it.
+// The walk goes on from the table of "gps " instead of stepping over it, as with "gps0".
 void Mp4Parser::readGpsBox()
 {
     skip(4); // version and flags
@@ -184,8 +185,8 @@ void Mp4Parser::readGpsBox()
     setTelemetry(GpsBox, position(), count);
 }
 
-// Required for "mvhd", "tkhd" and "hdlr": they are read field by field, and the walk goes on behind
-// the last field, whatever the box's size says.
+// "mvhd", "tkhd" and "hdlr" are read field by field, and the walk goes on behind the last field,
+// whatever the box's size says: which boxes are found behind a wrong size depends on it.
 void Mp4Parser::readMvhdBox(quint64, quint64)
 {
     quint8 version = 0;

@@ -238,8 +238,8 @@ void ParserObject::passChunk()
     constexpr int HeaderSize = 8;
     const char *header = file.bytesAt(mNextChunk, HeaderSize);
     quint64 size = qFromLittleEndian<quint32>(header + 4);
-    // Required: sound chunks are stepped over by their plain size, all others by the size rounded
-    // up to even.
+    // Sound chunks are stepped over by their plain size, all others by the size rounded up to even.
+    // Behind a sound chunk of odd size, which chunks are found depends on this difference.
     if (std::memcmp(header, "01wb", 4) == 0) {
         ++mSoundChunkCount;
         if (quint32(mSoundChunks.size()) < MaxSampleCount)
@@ -271,8 +271,9 @@ bool ParserObject::hasSample(int index) const
     // A table that could not fit into the file is an invention, not a table.
     if (gpsCount == 0 || gpsCount > mFileSize / 4)
         return false;
-    // Required: the last entry of every table is never delivered. With entry 0 skipped as well
-    // (see readBlock), N entries give the samples 0 to N - 2 from the entries 1 to N - 1.
+    // The last entry of every table is never delivered, and numbers of samples, chart and track
+    // depend on that. With entry 0 skipped as well, N entries give the samples 0 to N - 2 from the
+    // entries 1 to N - 1.
     return quint32(index) < std::min(gpsCount - 1, MaxSampleCount);
 }
 
@@ -294,8 +295,8 @@ const char *ParserObject::findBlock(int number)
                         file.holds(offset, BlockSize) ? BlockSize : rowSize(number, offset));
 }
 
-/** Where block @p number lies. Numbers start at 1: entry 0 of every table is skipped, which is
- *  required. */
+/** Where block @p number lies. Numbers start at 1: entry 0 of every table is skipped, and
+ *  which block a second of the recording shows depends on that. */
 quint64 ParserObject::blockOffset(int number)
 {
     const LocatingScheme &scheme = Schemes[gpsFormat];
@@ -342,7 +343,7 @@ bool ParserObject::isTableEntryHeld(int number) const
 
 bool ParserObject::findSoundChunk(int number, quint64 &offset)
 {
-    const quint64 firstChunk = quint32(gpsTableOffset); // required: 32 bits
+    const quint64 firstChunk = quint32(gpsTableOffset); // AVI offsets have 32 bits
     if (mFirstChunk != firstChunk)
         startChunks(firstChunk);
     while (mSoundChunks.size() < number && mayGoOn(mNextChunk))
@@ -403,7 +404,7 @@ void ParserObject::updateDirection(int number, GpsData &sample)
 {
     const double latitude = std::fabs(sample.latitude);
     const double longitude = std::fabs(sample.longitude);
-    // Required: the signed values are compared with magnitudes, so in the south and the west the
+    // The signed values are compared with magnitudes, so in the south and the west the
     // course is computed anew for every sample, and it is that of the mirrored track.
     const bool keeps = lastIndex >= number ||
                        std::fabs(lastLongitude - sample.longitude) <= SamePositionDeg ||

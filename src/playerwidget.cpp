@@ -111,8 +111,8 @@ void PlayerWidget::keyPressEvent(QKeyEvent *event)
         keyPressInFullScreen(event);
         return;
     }
-    // Required: the modifiers are tested against the code of the Alt key, which no modifier flag
-    // matches, so the keyboard never enters full screen.
+    // The modifiers are tested against the code of the Alt key, which no modifier flag matches: the
+    // keyboard never enters full screen, and Alt and Enter stay with the window.
     if (event->key() == Qt::Key_Enter && (int(event->modifiers()) & Qt::Key_Alt) != 0) {
         qDebug() << "Key_Enter, setValue=" << !isFullScreen();
         changeFullScreen(!isFullScreen());

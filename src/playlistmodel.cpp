@@ -183,7 +183,7 @@ int PlaylistModel::addDataByUrl(const QUrl &url)
     mRows.push_back(std::move(row));
     endInsertRows();
 
-    // Required: the range ends one past the last column.
+    // The range ends one past the last column. Views repaint as a whole upon any range.
     emit dataChanged(createIndex(id, 0), createIndex(id, ColumnCount));
     return id;
 }
@@ -227,7 +227,7 @@ void PlaylistModel::onVideoInfoChanged(int id, VideoInfo info)
     row->height = info.height;
     row->decodeType = info.decodeType;
     row->frameRate = info.frameRate;
-    // Required: an empty range. Views repaint as a whole upon it.
+    // An empty range, upon which views repaint as a whole.
     emit dataChanged(QModelIndex(), QModelIndex());
 }
 
