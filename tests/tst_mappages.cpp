@@ -210,7 +210,9 @@ void tst_MapPages::open(const QString &page, const QString &folder)
 
 void tst_MapPages::openStandIn(const QString &page)
 {
-    const QString folder = QUrl::fromLocalFile(QStringLiteral(MAP_STANDINS)).toString();
+    const QString folder = QUrl::fromLocalFile(QStringLiteral(MAP_STANDINS))
+                               .toString()
+                               .replace(QLatin1Char('\''), QLatin1String("%27")); // within quotes
     open(page,
          folderWith(folder + QLatin1String("/google.js"), folder + QLatin1String("/baidu.js")));
     QTRY_VERIFY(run(QStringLiteral("'standIn' in window")).toBool());
