@@ -6,7 +6,7 @@
 # Works offline, and changes nothing, when all of them are there.
 set -eu
 
-list="$(dirname "$0")/../packaging/debian-packages.txt"
+list="$(dirname -- "$0")/../packaging/debian-packages.txt"
 
 fail() {
     echo "install-packages: $*" >&2
@@ -29,12 +29,22 @@ done
 as_root=""
 if [ "$(id -u)" -ne 0 ]; then
     command -v sudo >/dev/null ||
-        fail "not root, and there is no sudo; as root, run: apt-get install$missing"
+        fail "packages are missing; as root, or as a user who may use sudo, run:" \
+            "apt-get install --no-install-recommends$missing"
     as_root="sudo"
 fi
 
-echo "Installing:$missing"
+# What apt itself foresees: "Need to get 25.6 MB of archives. After this operation, ..."
+foreseen() {
+    # shellcheck disable=SC2086
+    LC_ALL=C apt-get install --print-uris --no-install-recommends $missing 2>/dev/null |
+        sed -n -e 's/.* \([0-9]*\) newly installed.*/\1 packages./p' -e '/^Need to get/p' \
+            -e '/^After this operation/p' | tr '\n' ' '
+}
+
+echo "Missing packages are installed${as_root:+, with sudo}:$missing"
 $as_root apt-get update -q || fail "apt-get update failed; is there a network?"
+echo "To be installed, with all that they need: $(foreseen)"
 # shellcheck disable=SC2086
 $as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends $missing ||
     fail "apt-get could not install:$missing"
