@@ -3,6 +3,7 @@
 #include "configuration.h"
 #include "directiontray.h"
 #include "mainwindows.h"
+#include "patience.h"
 #include "setting.h"
 #include "speedtray.h"
 
@@ -101,7 +102,7 @@ void TestAccessibility::initTestCase()
     mDialog = std::make_unique<Setting>(mWindow.get());
     mWindow->show();
     mDialog->show();
-    QVERIFY(QTest::qWaitForWindowExposed(mDialog.get()));
+    QVERIFY(QTest::qWaitForWindowExposed(mDialog.get(), PatienceMs));
 }
 
 void TestAccessibility::everythingHasAName()

@@ -3,6 +3,7 @@
 #include "capturethread.h"
 #include "configuration.h"
 #include "fvideosurface.h"
+#include "patience.h"
 #include "playareamanager.h"
 #include "rowdata.h"
 
@@ -104,7 +105,7 @@ QStringList imagesIn(const QString &folder)
 bool runToItsEnd(CaptureThread &worker)
 {
     worker.start();
-    return worker.wait(20000);
+    return worker.wait(PatienceMs);
 }
 
 /** Waits for the images of the file at these positions. */
@@ -122,15 +123,16 @@ bool play(PlayerWidget &widget, const QString &fileName)
     widget.show();
     player->setMedia(QUrl::fromLocalFile(fileName));
     player->play();
-    return QTest::qWaitFor([player] { return player->position() > 0; });
+    return QTest::qWaitFor([player] { return player->position() > 0; }, PatienceMs);
 }
 
 /** Seeks more than once: the player loses a seek that comes while it changes its state. */
 bool seekPaused(QMediaPlayer *player, qint64 positionMs)
 {
-    for (int attempt = 0; attempt < 10; ++attempt) {
+    constexpr int seekMs = 500;
+    for (int attempt = 0; attempt < PatienceMs / seekMs; ++attempt) {
         player->setPosition(positionMs);
-        if (QTest::qWaitFor([&] { return player->position() == positionMs; }, 500))
+        if (QTest::qWaitFor([&] { return player->position() == positionMs; }, seekMs))
             return true;
     }
     return false;
@@ -379,7 +381,7 @@ void tst_Capture::timeStampsDiffer()
     for (int i = 0; i < Tasks; ++i)
         workers[i % 2].addTask(mFront, 1500);
     workers[1].start();
-    QVERIFY(runToItsEnd(workers[0]) && workers[1].wait());
+    QVERIFY(runToItsEnd(workers[0]) && workers[1].wait(PatienceMs));
     QStringList stamps = linesWith("start capture");
     QCOMPARE(stamps.size(), Tasks);
     QCOMPARE(stamps.removeDuplicates(), 0);
@@ -445,7 +447,7 @@ void tst_Capture::programEndsWhileCapturing()
     QVERIFY(writeTool(tool));
     QProcess program;
     program.start(QCoreApplication::applicationFilePath(), {EndWhileCapturing, mFront});
-    QVERIFY(program.waitForFinished(60000));
+    QVERIFY(program.waitForFinished(PatienceMs));
     QCOMPARE(program.exitCode(), 0);
     const QFileInfoList images = QDir(mShots).entryInfoList(QDir::Files);
     QCOMPARE(images.size(), 1); // of two
@@ -526,7 +528,7 @@ int endWhileCapturing(int argc, char *argv[])
     worker->addTask(QString::fromLocal8Bit(argv[2]), 2500);
     worker->runUnattended();
     worker->start();
-    return QTest::qWaitFor([] { return !linesWith("captureCmd").isEmpty(); }) ? 0 : 1;
+    return QTest::qWaitFor([] { return !linesWith("captureCmd").isEmpty(); }, PatienceMs) ? 0 : 1;
 }
 
 int main(int argc, char *argv[])

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "commandline.h"
 #include "displaycheck.h"
+#include "patience.h"
 
 #include <QtTest>
 
@@ -151,7 +152,7 @@ void TestCommandLine::playerWithoutWindow()
     qunsetenv("DISPLAY");
     QProcess player;
     player.start(TALVOR_PLAYER, {QTest::currentDataTag()});
-    QVERIFY(player.waitForFinished());
+    QVERIFY(player.waitForFinished(PatienceMs));
     QCOMPARE(player.exitStatus(), QProcess::NormalExit);
     QCOMPARE(player.exitCode(), exitCode);
 

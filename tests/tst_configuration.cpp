@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Quellfern
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "configuration.h"
+#include "patience.h"
 
 #include <QtTest>
 
@@ -179,7 +180,7 @@ void TestConfiguration::firstLanguage()
     environment.insert("LC_ALL", QString::fromLatin1(QTest::currentDataTag()) + ".UTF-8");
     process.setProcessEnvironment(environment);
     process.start(QCoreApplication::applicationFilePath(), {TellLanguage});
-    QVERIFY(process.waitForFinished());
+    QVERIFY(process.waitForFinished(PatienceMs));
     QCOMPARE(process.readAllStandardOutput().trimmed(), QByteArray::number(language));
 }
 

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Quellfern
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "coordinateconv.h"
+#include "patience.h"
 
 #include <QPointF>
 #include <QProcess>
@@ -111,7 +112,7 @@ void TestCoordinateConv::preconditionsStopTheProgram()
         QProcess process;
         const QStringList arguments = QString(leg).split(' ');
         process.start(QCoreApplication::applicationFilePath(), QStringList{SailOption} + arguments);
-        QVERIFY(process.waitForFinished());
+        QVERIFY(process.waitForFinished(PatienceMs));
         QCOMPARE(process.exitStatus() == QProcess::CrashExit, *condition != '\0');
         QVERIFY2(process.readAllStandardError().contains(condition), leg);
     }

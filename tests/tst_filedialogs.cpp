@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Quellfern
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "filedialogs.h"
+#include "patience.h"
 
 #include <QFileDialog>
 #include <QLineEdit>
@@ -102,10 +103,11 @@ void TestFileDialogs::listsRecordingsUnderGtk()
     environment.insert("QT_QPA_PLATFORMTHEME", "gtk3");
     program.setProcessEnvironment(environment);
     program.start(QCoreApplication::applicationFilePath(), {AskIn, mFolder.filePath("CARD")});
-    QVERIFY(program.waitForStarted());
-    for (int i = 0; i < 30 && program.state() == QProcess::Running; ++i) {
+    QVERIFY(program.waitForStarted(PatienceMs));
+    constexpr int pressMs = 500; // until Return is pressed again, which the dialog may have missed
+    for (int i = 0; i < PatienceMs / pressMs && program.state() == QProcess::Running; ++i) {
         QProcess::execute("xdotool", {"key", "Return"});
-        program.waitForFinished(500);
+        program.waitForFinished(pressMs);
     }
     QCOMPARE(program.readAllStandardOutput(),
              QFile::encodeName(mFolder.filePath("CARD/MOVA0001.MP4")));

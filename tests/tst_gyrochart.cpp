@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Quellfern
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "gyrochartview.h"
+#include "patience.h"
 
 #include <QtCharts/QChart>
 #include <QtTest>
@@ -121,7 +122,7 @@ void TestGyroChart::samplesAreSeen()
 {
     constexpr int count = 500;
     mView->show();
-    QVERIFY(QTest::qWaitForWindowExposed(mView.get()));
+    QVERIFY(QTest::qWaitForWindowExposed(mView.get(), PatienceMs));
     mView->setAxisXRange(count);
     for (int i = 0; i < count; ++i) {
         mView->insertPoints({1.0f, 0.0f, -1.0f});

@@ -7,6 +7,7 @@
 #include "mainwindows.h"
 #include "mapwebview.h"
 #include "mediafile.h"
+#include "patience.h"
 #include "playareamanager.h"
 #include "playlistmodel.h"
 #include "recordingwriter.h"
@@ -123,7 +124,7 @@ void tst_MainWindow::open()
 {
     mWindow = std::make_unique<MainWindows>();
     mWindow->show();
-    QVERIFY(QTest::qWaitForWindowActive(mWindow.get()));
+    QVERIFY(QTest::qWaitForWindowActive(mWindow.get(), PatienceMs));
 }
 
 void tst_MainWindow::restoresGeometry_data()
@@ -164,7 +165,7 @@ void tst_MainWindow::confirmsGeometryOnce()
     const QPoint frame(4, 24);
     mWindow->move(DefaultRect.topLeft() + frame);
     mWindow->show();
-    QVERIFY(QTest::qWaitForWindowActive(mWindow.get()));
+    QVERIFY(QTest::qWaitForWindowActive(mWindow.get(), PatienceMs));
     QTRY_COMPARE(mWindow->geometry(), DefaultRect);
 
     const QRect moved = DefaultRect.translated(-50, 60);
@@ -172,7 +173,7 @@ void tst_MainWindow::confirmsGeometryOnce()
     QTRY_COMPARE(mWindow->geometry(), moved);
     mWindow->hide();
     mWindow->show();
-    QVERIFY(QTest::qWaitForWindowActive(mWindow.get()));
+    QVERIFY(QTest::qWaitForWindowActive(mWindow.get(), PatienceMs));
     QCOMPARE(mWindow->geometry(), moved);
 }
 
@@ -181,7 +182,7 @@ void tst_MainWindow::staysReachableOnASmallScreen()
     mWindow = std::make_unique<MainWindows>();
     mWindow->setMinimumSize(1700, 1100);
     mWindow->show();
-    QVERIFY(QTest::qWaitForWindowActive(mWindow.get()));
+    QVERIFY(QTest::qWaitForWindowActive(mWindow.get(), PatienceMs));
     QTRY_COMPARE(mWindow->geometry(), QRect(0, 0, 1700, 1100)); // its title at least
 }
 
@@ -354,7 +355,7 @@ void tst_MainWindow::savingSettingsReloadsTheMap()
     const QString question =
         QStringLiteral("document.readyState + ' ' + location.pathname.split('/').pop() + ' ' + "
                        "document.documentElement.lang");
-    QTRY_VERIFY_WITH_TIMEOUT(pageTold(question).startsWith("complete BaiduMapIndex.html"), 20000);
+    QTRY_VERIFY(pageTold(question).startsWith("complete BaiduMapIndex.html"));
     static int loads;
     loads = 0;
     const auto before =
@@ -372,10 +373,10 @@ void tst_MainWindow::savingSettingsReloadsTheMap()
     QCOMPARE(Configuration::GetInstance()->maps(), MapTypes(maps));
     QFETCH(QString, page);
     QString told;
-    for (int i = 0; i < 40 && told != "complete " + page; ++i)
-        told = pageTold(question);
+    const auto isComplete = [&] { return (told = pageTold(question)) == "complete " + page; };
+    const bool isShown = QTest::qWaitFor(isComplete, PatienceMs);
     qInstallMessageHandler(before);
-    QCOMPARE(told, "complete " + page);
+    QVERIFY2(isShown, qPrintable(told));
     QTEST(loads, "loads");
 }
 
@@ -439,18 +440,18 @@ void tst_MainWindow::screenshotsAreTold()
     QTRY_COMPARE(child<ControlPanel>("wgt_ControlPanel")->state(), QMediaPlayer::PlayingState);
     const auto *label = child<QLabel>("lbl_FileName");
     QTest::mouseClick(child("btn_ScreenShot"), Qt::LeftButton);
-    QTRY_VERIFY_WITH_TIMEOUT(label->text().startsWith("Screenshot saved: "), 20000);
+    QTRY_VERIFY(label->text().startsWith("Screenshot saved: "));
     const QStringList images = shots.entryList(QDir::Files);
     QCOMPARE(images.size(), 1);
     QTextDocument toolTip;
     toolTip.setHtml(label->toolTip());
     QCOMPARE(toolTip.toPlainText(), "Screenshot saved: " + shots.filePath(images.first()));
-    QTRY_COMPARE_WITH_TIMEOUT(label->text(), QStringLiteral("ride.mp4"), 20000);
+    QTRY_COMPARE(label->text(), QStringLiteral("ride.mp4"));
     QCOMPARE(label->toolTip(), QString());
 
     Configuration::GetInstance()->setScreenshotSavePath(recording + "/below");
     QTest::mouseClick(child("btn_ScreenShot"), Qt::LeftButton);
-    QTRY_VERIFY_WITH_TIMEOUT(label->text().startsWith("No screenshot: "), 20000);
+    QTRY_VERIFY(label->text().startsWith("No screenshot: "));
     QVERIFY2(!label->toolTip().contains("saved"), "by the request before");
     Configuration::GetInstance()->setLanguage(EnglishUK);
     QCOMPARE(label->text(), QString());

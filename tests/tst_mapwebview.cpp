@@ -4,6 +4,7 @@
 #include "configuration.h"
 #include "gpsuser.h"
 #include "mapwebview.h"
+#include "patience.h"
 
 #include <QCloseEvent>
 #include <QDesktopServices>
@@ -63,7 +64,7 @@ QString outputOf(const QString &program, const QStringList &arguments)
 {
     QProcess process;
     process.start(program, arguments);
-    if (!process.waitForFinished(10000) || process.exitCode() != 0)
+    if (!process.waitForFinished(PatienceMs) || process.exitCode() != 0)
         qWarning() << program << arguments << process.errorString();
     return QString::fromLocal8Bit(process.readAllStandardOutput());
 }
@@ -315,7 +316,7 @@ void TestMapWebView::comesBackWhenThePageDies()
     for (int deaths = 1; deaths <= 3; ++deaths) {
         mMap->calls.clear();
         mView->page()->load(death);
-        QTRY_COMPARE_WITH_TIMEOUT(mMap->calls.value(mMap->calls.size() - 1), lastCall, 10000);
+        QTRY_COMPARE(mMap->calls.value(mMap->calls.size() - 1), lastCall);
         mMap->addPoint({deaths, 11.6, 48.2});
         QTRY_COMPARE(stateOf("JSON.stringify(talvorMap.state().position)"), QString("[11.6,48.2]"));
         QCOMPARE(stateOf("String(talvorMap.state().routePoints)"), QString("2"));
@@ -361,7 +362,7 @@ void TestMapWebView::callsWaitForTheLastOfTwoPages()
         }
         // Without a key, the page itself holds the calls that reach it.
         QString held;
-        for (int attempt = 0; attempt < 200 && held != "100"; ++attempt) {
+        for (int attempt = 0; attempt < 2000 && held != "100"; ++attempt) {
             QTestEventLoop::instance().enterLoopMSecs(20);
             held = stateOf("String(talvorMap.state().held)");
         }
@@ -374,7 +375,7 @@ void TestMapWebView::followsItsPlace()
     QCOMPARE(int(mView->windowFlags()), 0x80B);
     mWindow->setGeometry(100, 120, 320, 280);
     mWindow->show();
-    QVERIFY(QTest::qWaitForWindowActive(mWindow.get()));
+    QVERIFY(QTest::qWaitForWindowActive(mWindow.get(), PatienceMs));
     QTRY_VERIFY(mView->isVisible());
     QTRY_COMPARE(mView->geometry(), place());
     mWindow->move(300, 200);
@@ -460,12 +461,12 @@ void TestMapWebView::bringsItsWindowToTheFront()
 {
     mWindow->setGeometry(100, 120, 320, 280);
     mWindow->show();
-    QVERIFY(QTest::qWaitForWindowActive(mWindow.get()));
+    QVERIFY(QTest::qWaitForWindowActive(mWindow.get(), PatienceMs));
     QTRY_VERIFY(isOnScreen(mView));
     QWidget cover;
     cover.setGeometry(mWindow->geometry().translated(0, 150));
     cover.show();
-    QVERIFY(QTest::qWaitForWindowActive(&cover));
+    QVERIFY(QTest::qWaitForWindowActive(&cover, PatienceMs));
     const auto stacking = [] { return outputOf("xprop", {"-root", "_NET_CLIENT_LIST_STACKING"}); };
     const auto isAbove = [&stacking](const QWidget &upper, const QWidget &lower) {
         const QString ids = stacking();
@@ -476,7 +477,7 @@ void TestMapWebView::bringsItsWindowToTheFront()
 
     useMouseAt(place().topLeft() + QPoint(100, 20), {"click", "1"});
     QTRY_VERIFY(isAbove(*mView, *mWindow) && isAbove(*mWindow, cover));
-    QVERIFY(QTest::qWaitForWindowActive(mWindow.get()));
+    QVERIFY(QTest::qWaitForWindowActive(mWindow.get(), PatienceMs));
 }
 
 /** The page is dark, and so is what can be seen before there is a page. */
@@ -506,7 +507,7 @@ void TestMapWebView::leavesKeyboardAndProgramAlone()
 {
     mWindow->setGeometry(100, 120, 320, 280);
     mWindow->show();
-    QVERIFY(QTest::qWaitForWindowActive(mWindow.get()));
+    QVERIFY(QTest::qWaitForWindowActive(mWindow.get(), PatienceMs));
     QTRY_VERIFY(mView->isVisible());
     useMouseAt(place().center(), {"click", "1", "key", "space"});
     QTRY_COMPARE(mWindow->spaces, 1);

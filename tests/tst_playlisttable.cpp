@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Quellfern
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "patience.h"
 #include "playlisttable.h"
 
 #include <QHeaderView>
@@ -16,7 +17,7 @@ const QString LongName = QStringLiteral("20260314_092600_000123 <b>a rather long
 QString toolTipAt(QWidget *viewport, const QPoint &place)
 {
     QToolTip::hideText(); // which takes a moment
-    if (!QTest::qWaitFor([] { return !QToolTip::isVisible(); }))
+    if (!QTest::qWaitFor([] { return !QToolTip::isVisible(); }, PatienceMs))
         return "always";
     QHelpEvent event(QEvent::ToolTip, place, viewport->mapToGlobal(place));
     QCoreApplication::sendEvent(viewport, &event);
@@ -67,7 +68,7 @@ void TestPlaylistTable::nothingIsCut()
     table.setFont(QFont("Calibri", points));
     table.show();
     model.setHeaderData(1, Qt::Horizontal, longTitle); // as in another language
-    QVERIFY(QTest::qWaitForWindowExposed(&table));
+    QVERIFY(QTest::qWaitForWindowExposed(&table, PatienceMs));
 
     QHeaderView *header = table.horizontalHeader();
     QCOMPARE(header->viewport()->font(), header->font());
@@ -101,7 +102,7 @@ void TestPlaylistTable::scrollBarIsRound()
     table.resize(300, 150); // narrower than the columns
     table.setPlaylist(&model);
     table.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&table));
+    QVERIFY(QTest::qWaitForWindowExposed(&table, PatienceMs));
     for (QScrollBar *scrollBar : {table.verticalScrollBar(), table.horizontalScrollBar()}) {
         const QImage image = scrollBar->grab().toImage();
         const bool isVertical = scrollBar->orientation() == Qt::Vertical;

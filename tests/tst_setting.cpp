@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "configuration.h"
 #include "languagefont.h"
+#include "patience.h"
 #include "setting.h"
 
 #include <QComboBox>
@@ -93,7 +94,7 @@ void TestSetting::init()
     mParent = std::make_unique<QWidget>(nullptr, Qt::Window | Qt::FramelessWindowHint);
     mParent->setGeometry(400, 200, 800, 600);
     mParent->show();
-    QVERIFY(QTest::qWaitForWindowActive(mParent.get()));
+    QVERIFY(QTest::qWaitForWindowActive(mParent.get(), PatienceMs));
 }
 
 void TestSetting::cleanup()
@@ -113,7 +114,7 @@ void TestSetting::open(const QByteArray &stored)
     mDialog = std::make_unique<Setting>(mParent.get());
     mFinished = std::make_unique<QSignalSpy>(mDialog.get(), &QDialog::finished);
     mDialog->open();
-    QVERIFY(QTest::qWaitForWindowActive(mDialog.get()));
+    QVERIFY(QTest::qWaitForWindowActive(mDialog.get(), PatienceMs));
     QTRY_VERIFY(QApplication::focusWidget());
 }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "configuration.h"
 #include "mediafile.h"
+#include "patience.h"
 
 #include <QFile>
 #include <QProcess>
@@ -21,7 +22,7 @@ QByteArray outputOf(const char *program, const QString &arguments)
 {
     QProcess process;
     process.start(QLatin1String(program), arguments.split(QLatin1Char(' ')));
-    process.waitForFinished();
+    process.waitForFinished(PatienceMs);
     return process.readAllStandardOutput();
 }
 
@@ -99,7 +100,7 @@ void tst_Start::init()
 void tst_Start::cleanup()
 {
     mPlayer->kill();
-    mPlayer->waitForFinished();
+    mPlayer->waitForFinished(PatienceMs);
     QTRY_VERIFY(managedWindows().isEmpty());
 }
 
@@ -114,15 +115,14 @@ void tst_Start::start(const QProcessEnvironment &additions)
     environment.insert(additions);
     mPlayer->setProcessEnvironment(environment);
     mPlayer->start(QStringLiteral(TALVOR_PLAYER), {mFolder.filePath(QStringLiteral("one.mp4"))});
-    QTRY_VERIFY_WITH_TIMEOUT(
-        (mErrors += mPlayer->readAllStandardError()).contains("onPositionChanged"), 20000);
+    QTRY_VERIFY((mErrors += mPlayer->readAllStandardError()).contains("onPositionChanged"));
 }
 
 /** Returns what the program ends with; -1 when it does not end by itself. */
 int tst_Start::end(int request)
 {
     ::kill(pid_t(mPlayer->processId()), request);
-    const bool isOver = mPlayer->waitForFinished(10000);
+    const bool isOver = mPlayer->waitForFinished(PatienceMs);
     return isOver && mPlayer->exitStatus() == QProcess::NormalExit ? mPlayer->exitCode() : -1;
 }
 

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Quellfern
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "aviwriter.h"
+#include "patience.h"
 #include "recordingwriter.h"
 #include "resourcelimit.h"
 #include "videoparser.h"
@@ -184,7 +185,7 @@ void TestVideoParser::servesUntilStopped()
 
     QSignalSpy finished(mWorker.get(), &QThread::finished);
     mWorker->stopParserGpsData();
-    QVERIFY(finished.wait());
+    QVERIFY(finished.wait(PatienceMs));
     mWorker->updatePaserGpsDataPosition(3);
     QVERIFY(mWorker->isFinished());
     mWorker->updateAllGpsData(); // starts it again
@@ -203,14 +204,12 @@ void TestVideoParser::startEndsThePassBefore()
     int ticks = 0;
     QTimer ticking;
     connect(&ticking, &QTimer::timeout, this, [&ticks] { ++ticks; });
-    ticking.start(20);
+    ticking.start(0);
     QSignalSpy finished(mWorker.get(), &QThread::finished);
-    QElapsedTimer timer;
-    timer.start();
     mWorker->start(recording("plain.mp4", 0), 7, 0);
     QCOMPARE(finished.count(), 1);
-    QVERIFY2(ticks >= timer.elapsed() / 100, qPrintable(QString::number(ticks)));
-    mWorker->updatePaserGpsDataPosition(1); // which the recording does not have
+    QVERIFY2(ticks > 1, qPrintable(QString::number(ticks))); // again and again, not once at the end
+    mWorker->updatePaserGpsDataPosition(1);                  // which the recording does not have
     expect("7: 640 wide");
     mWorker->updateAllGpsData();
     expect("7: 0, to 0 km/h");
@@ -248,7 +247,7 @@ void TestVideoParser::readsFewAtATime()
     mWorker->start(url, 7, 0);
     QTRY_VERIFY(mWorker->isRunning());
     mWorker->stopParserGpsData();
-    QVERIFY(finished.wait());
+    QVERIFY(finished.wait(PatienceMs));
     QCOMPARE(mReports, QStringList()); // its turn had not come
 
     mWorker->start(url, 8, 0);

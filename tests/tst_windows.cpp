@@ -3,6 +3,7 @@
 #include "configuration.h"
 #include "mainwindows.h"
 #include "mediafile.h"
+#include "patience.h"
 #include "playareamanager.h"
 
 #include <QApplication>
@@ -144,7 +145,7 @@ void tst_Windows::init()
     Configuration::GetInstance()->setMainwindowsIsMaximize(false);
     mWindow = std::make_unique<MainWindows>();
     mWindow->show();
-    QVERIFY(QTest::qWaitForWindowActive(mWindow.get()));
+    QVERIFY(QTest::qWaitForWindowActive(mWindow.get(), PatienceMs));
     QTRY_COMPARE(mWindow->geometry(), StoredRect);
 }
 
@@ -235,11 +236,11 @@ void tst_Windows::fullScreenYieldsToOtherPrograms()
     enterFullScreen();
     QProcess other;
     other.start(QStringLiteral("xmessage"), {QStringLiteral("a notification")});
-    QVERIFY(other.waitForStarted());
+    QVERIFY(other.waitForStarted(PatienceMs));
     QTRY_VERIFY(!player()->isFullScreen() && !player()->isWindow());
     QVERIFY(!mWindow->isActiveWindow());
     other.kill();
-    other.waitForFinished();
+    other.waitForFinished(PatienceMs);
 }
 
 void tst_Windows::managerEndsFullScreen()

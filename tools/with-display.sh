@@ -76,7 +76,7 @@ wait_for() { # SECONDS COMMAND...: polls until the command succeeds
 
 Xvfb -displayfd 3 -screen 0 "${size}x24" -nolisten tcp 3>"$work/display" 2>"$work/server.log" &
 server=$!
-wait_for 20 test -s "$work/display" ||
+wait_for 60 test -s "$work/display" ||
     { echo "with-display: the X server did not start:" >&2; cat "$work/server.log" >&2; exit 1; }
 DISPLAY=":$(cat "$work/display")"
 export DISPLAY
@@ -92,7 +92,7 @@ announced() {
     fi
     xprop -root _NET_SUPPORTING_WM_CHECK | grep -q "window id"
 }
-[ -z "$manage" ] || wait_for 20 announced ||
+[ -z "$manage" ] || wait_for 60 announced ||
     { echo "with-display: the window manager did not start:" >&2; cat "$work/manager.log" >&2; exit 1; }
 
 # The web engine's sandbox refuses to run for root.

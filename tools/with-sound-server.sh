@@ -30,7 +30,7 @@ server=$!
 PULSE_SERVER=unix:$work/socket
 export PULSE_SERVER
 
-tries=200
+tries=1200
 until pactl info >/dev/null 2>&1; do
     tries=$((tries - 1))
     if [ $tries -le 0 ] || ! kill -0 "$server" 2>/dev/null; then

@@ -22,7 +22,7 @@ bool encode(const QString &fileName, int seconds, const QString &codings)
     QProcess ffmpeg;
     const QString arguments = Sources.arg(seconds) + codings;
     ffmpeg.start(QStringLiteral("ffmpeg"), arguments.split(QLatin1Char(' ')) << fileName);
-    const bool done = ffmpeg.waitForFinished(60000) && ffmpeg.exitCode() == 0;
+    const bool done = ffmpeg.waitForFinished(-1) && ffmpeg.exitCode() == 0;
     if (!done)
         qWarning() << "ffmpeg:" << ffmpeg.errorString() << ffmpeg.readAllStandardError();
     return done;
