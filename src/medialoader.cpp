@@ -2,6 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "medialoader.h"
 
+#include "mediaurl.h"
+#include "recordingcontainer.h"
+
+#include <QDebug>
+
 namespace {
 
 // Whole recordings are loaded within a fraction of a second. One that was cut off before its index
@@ -10,6 +15,29 @@ constexpr int PatienceMs = 3000;
 
 // The backend may still be on its way to playing for so long.
 constexpr int StateChangeMs = 300;
+
+/** Why the media must not reach the player; empty when they may. What is not the plain name of a
+ *  file may lead a player elsewhere than to the file that was looked at. */
+QString obstacleTo(const QUrl &url)
+{
+    const bool isPlainFile =
+        url.isLocalFile() && url.host().isEmpty() && !url.hasQuery() && !url.hasFragment();
+    return isPlainFile ? RecordingContainer(url.toLocalFile()).obstacle()
+                       : QStringLiteral("not a local file");
+}
+
+/** The media, or none when these must not be played. */
+QMediaContent playable(const QMediaContent &media)
+{
+    if (media.isNull())
+        return media;
+    const QUrl url = mediaUrl(media);
+    const QString obstacle = obstacleTo(url);
+    if (obstacle.isEmpty())
+        return media;
+    qDebug() << "not played:" << url.toString() << obstacle;
+    return QMediaContent();
+}
 
 } // namespace
 
@@ -29,8 +57,8 @@ void MediaLoader::load(const QMediaContent &media)
 {
     cancelTimers();
     mHasFailed = false;
-    mPlayer->setMedia(media);
-    if (media.isNull())
+    mPlayer->setMedia(playable(media));
+    if (mPlayer->media().isNull())
         mPatience.start(0);
 }
 

@@ -24,7 +24,9 @@ class MediaLoader : public QObject
 public:
     explicit MediaLoader(QMediaPlayer *player, QObject *parent = nullptr);
 
-    /** Hands the recording to the player. Null media have failed at once. */
+    /** Hands the recording to the player. Null media have failed at once; so has all that is not a
+     *  local recording complete in itself (RecordingContainer), which the player never gets: it
+     *  might call a server for it. */
     void load(const QMediaContent &media);
     /** Takes the recording away from the player, which then shows nothing. Whether it had failed
      *  is still known. */

@@ -41,13 +41,6 @@ constexpr qint64 StuckAfterMs = 2500;
 constexpr int MaxRestarts = 2;
 constexpr int ReportsOfMotion = 5; // more than a seek brings by itself
 
-/** What the player is given: nothing for a pipe or a device, whose opening may wait for ever. */
-QMediaContent mediaOf(const QUrl &url)
-{
-    const QFileInfo file(url.toLocalFile());
-    return file.exists() && !file.isFile() ? QMediaContent() : QMediaContent(url);
-}
-
 /** After a move, which some sources propose, they would delete the camera's file. */
 void acceptCopy(QDropEvent *event)
 {
@@ -128,9 +121,9 @@ void PlayAreaManager::setResourceData(const RowData *main, const RowData *relate
     ++mRound;
     mRestarts = 0;
     mSecondWaits = false;
-    mMain->loader()->load(mediaOf(main->url));
+    mMain->loader()->load(QMediaContent(main->url));
     if (mSecond)
-        mSecond->loader()->load(mediaOf(related->url));
+        mSecond->loader()->load(QMediaContent(related->url));
     mMainRow = main;
     mRelatedRow = related;
     mSecondPositionMs = 0;
