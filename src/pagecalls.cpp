@@ -13,7 +13,7 @@ namespace {
 
 constexpr int PageStateMs = 20;
 constexpr int AnswerMs = 3000;
-// A page that dies more often than this within the time is given up.
+// A page that is lost more often than this within the time is given up.
 constexpr int MostLosses = 3;
 constexpr int LossesMs = 60 * 1000;
 
@@ -22,7 +22,8 @@ constexpr int LossesMs = 60 * 1000;
 PageCalls::PageCalls(QWebEnginePage *page, QObject *parent) : QObject(parent), mPage(page)
 {
     connect(mPage, &QWebEnginePage::loadFinished, this, &PageCalls::onLoadFinished);
-    connect(mPage, &QWebEnginePage::renderProcessTerminated, this, &PageCalls::onProcessGone);
+    connect(mPage, &QWebEnginePage::renderProcessTerminated, this, &PageCalls::onLost);
+    connect(mPage, &QWebEnginePage::urlChanged, this, &PageCalls::onUrlChanged);
 }
 
 void PageCalls::load(const QUrl &url)
@@ -69,8 +70,18 @@ void PageCalls::onLoadFinished()
         runHeldCalls();
 }
 
-void PageCalls::onProcessGone()
+// An empty page asks nobody whether it may be shown.
+void PageCalls::onUrlChanged(const QUrl &url)
 {
+    if (mIsLoaded && (url.scheme() != mUrl.scheme() || url.path() != mUrl.path()))
+        onLost();
+}
+
+void PageCalls::onLost()
+{
+    if (mLostPage == mPageCount)
+        return;
+    mLostPage = mPageCount;
     mIsLoaded = false;
     mHeldCalls.clear();
     forgetQuestions();

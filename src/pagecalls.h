@@ -13,7 +13,7 @@ class QWebEnginePage;
  * The calls of a local page's JavaScript functions, none of which has a result.
  *
  * Calls made before the page has loaded are held back and run in order when it has; a new page
- * drops those held for the old one. The calls of a page whose process has died are lost.
+ * drops those held for the old one. The calls of a page that is gone are lost.
  *
  * GUI thread only.
  */
@@ -36,15 +36,16 @@ public:
     void letPageCatchUp();
 
 signals:
-    /** The page's process died, and the page has to be loaded again. Not told of a page that dies
-     *  over and over. */
+    /** The page's process died, or a script has left the page, which has to be loaded again. Not
+     *  told of a page that is lost over and over. */
     void pageLost();
     /** The page has come to some letPageCatchUp(), or never will. */
     void caughtUp();
 
 private:
     void onLoadFinished();
-    void onProcessGone();
+    void onUrlChanged(const QUrl &url);
+    void onLost();
     void askPage(int page);
     void onPageState(int page, const QString &state);
     void runHeldCalls();
@@ -64,4 +65,5 @@ private:
     bool mIsSilent = false;
     QElapsedTimer mSinceFirstLoss;
     int mLossCount = 0;
+    int mLostPage = 0; // by its count; told of once
 };

@@ -103,6 +103,7 @@ private slots:
     void pageChangesUnderATrack();
     void longTracksLetOthersBefore();
     void comesBackWhenThePageDies();
+    void comesBackWhenAScriptLeaves();
     void callsWaitForThePage();
     void callsWaitForTheLastOfTwoPages();
     void followsItsPlace();
@@ -331,6 +332,22 @@ void TestMapWebView::comesBackWhenThePageDies()
 
     mMap->setMapType(MapOpenStreetMap);
     QTRY_COMPARE(stateOf("String(talvorMap.state().routePoints)"), QString("2"));
+}
+
+void TestMapWebView::comesBackWhenAScriptLeaves()
+{
+    mWindow->resize(320, 280);
+    mWindow->show();
+    waitForPage();
+    const QUrl page = mView->url();
+    QSignalSpy urls(mView, &QWebEngineView::urlChanged);
+    mView->page()->runJavaScript("location.hash = 'still-there'");
+    QTRY_COMPARE(urls.size(), 1);
+    mView->page()->runJavaScript("window.isOld = true; location.href = 'about:blank'");
+    QTRY_VERIFY(urls.contains({QUrl("about:blank")}));
+    QTRY_COMPARE(mView->url(), page);
+    waitForPage();
+    QCOMPARE(stateOf("String(window.isOld)"), QString("undefined"));
 }
 
 void TestMapWebView::callsWaitForThePage()
