@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "mapwebview.h"
 
-#include "appname.h"
 #include "gpsuser.h"
 #include "mappage.h"
 #include "overlaywindow.h"
@@ -84,12 +83,6 @@ QString fixed(double degrees)
     return QStringLiteral("%1").arg(degrees, 0, 'f', 6);
 }
 
-/** What the tile servers ask of programs: a name, a version and an address. */
-QString userAgent()
-{
-    return QStringLiteral("TalvorPlayer/%1 (maps@quellfern.example)").arg(APP_VERSION);
-}
-
 } // namespace
 
 MapWebView::MapWebView(QWidget *parent) : QWidget(parent)
@@ -118,6 +111,12 @@ void MapWebView::updatePosition()
 void MapWebView::dropTrack()
 {
     ++mDropCount;
+}
+
+QString MapWebView::userAgent(const QString &contact)
+{
+    const QString program = QStringLiteral("TalvorPlayer/" TALVOR_VERSION);
+    return contact.isEmpty() ? program : QStringLiteral("%1 (%2)").arg(program, contact);
 }
 
 void MapWebView::delay_time(int ms)
@@ -217,7 +216,7 @@ void MapWebView::setupWebView()
     // A profile with a name keeps its tiles on disk.
     auto *profile = new QWebEngineProfile(QStringLiteral("map"), this);
     keepTilesOnDisk(profile);
-    profile->setHttpUserAgent(userAgent());
+    profile->setHttpUserAgent(userAgent(QStringLiteral(TALVOR_CONTACT)));
     webView->setPage(new MapPage(profile, webView));
     webView->page()->setBackgroundColor(MapBackground);
     mCalls = new PageCalls(webView->page(), this);

@@ -43,6 +43,10 @@ public:
     /** Ends the sending of a track, if one is being sent or about to be. */
     void dropTrack();
 
+    /** What servers are told of who asks: the program, its version and, if there is one, the
+     * address at which they reach the packager. */
+    static QString userAgent(const QString &contact);
+
     /** Processes events for @p ms milliseconds of the time of day; a wait across midnight ends at
      *  once. */
     static void delay_time(int ms);

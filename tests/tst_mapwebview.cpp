@@ -1,6 +1,5 @@
 // SPDX-FileCopyrightText: 2026 Quellfern
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "appname.h"
 #include "configuration.h"
 #include "gpsuser.h"
 #include "mapwebview.h"
@@ -559,8 +558,11 @@ void TestMapWebView::tellsServersWhoAsks()
     };
     QVERIFY2(header("Accept-Language").startsWith("de"), request.constData());
     const QString agent = header("User-Agent");
-    QVERIFY2(agent.startsWith(QString("TalvorPlayer/%1 (").arg(APP_VERSION)), qPrintable(agent));
-    QVERIFY(agent.contains('@') && !agent.contains("Mozilla") && !agent.contains("Chrome"));
+    QCOMPARE(agent, MapWebView::userAgent(CONTACT));
+
+    const QString program = QString("TalvorPlayer/%1").arg(VERSION);
+    QCOMPARE(MapWebView::userAgent(QString()), program);
+    QCOMPARE(MapWebView::userAgent("a%1@example.org"), program + " (a%1@example.org)");
 }
 
 void TestMapWebView::opensLinksInTheBrowser()
