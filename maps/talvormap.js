@@ -8,7 +8,7 @@
  *
  * - scriptUrl(key, language): the provider's own script, which calls talvorMap.providerReady();
  *   absent if the page has loaded it
- * - key: which key of talvorMapKeys it needs, and which text names it; absent likewise
+ * - key: which of the program's keys it needs, and which text names it; absent likewise
  * - controls: a selector of what moves the view when it is clicked
  * - create(element): makes the map, showing something
  * - point(lng, lat): a WGS-84 position as the provider's object, shifted to the provider's datum,
@@ -65,7 +65,7 @@ window.talvorMap = (() => {
             keyRefused: '{map} does not accept the key.',
             noAnswer: '{map} cannot be loaded: the service is out of reach or no longer supports '
                 + 'this program.',
-            keyHint: 'The key belongs in the file keys.js in the program’s maps folder.',
+            keyHint: 'The key belongs in this file:',
             filesMissing: 'The map cannot be shown because files of the program are missing.',
             tilesMissing: 'The map images cannot be loaded at the moment.',
             zoomIn: 'Zoom in',
@@ -77,7 +77,7 @@ window.talvorMap = (() => {
             keyMissing: '{map}需要您自己的密钥。',
             keyRefused: '{map}不接受该密钥。',
             noAnswer: '{map}无法加载：无法连接到服务，或服务已不再支持本程序。',
-            keyHint: '密钥请填写在程序 maps 文件夹的 keys.js 文件中。',
+            keyHint: '密钥请填写在此文件中：',
             filesMissing: '程序文件不完整，无法显示地图。',
             tilesMissing: '暂时无法加载地图图片。',
             zoomIn: '放大',
@@ -89,7 +89,7 @@ window.talvorMap = (() => {
             keyMissing: '{map}需要您自己的金鑰。',
             keyRefused: '{map}不接受此金鑰。',
             noAnswer: '{map}無法載入：無法連線到服務，或服務已不再支援本程式。',
-            keyHint: '金鑰請填寫在程式 maps 資料夾的 keys.js 檔案中。',
+            keyHint: '金鑰請填寫在此檔案中：',
             filesMissing: '程式檔案不完整，無法顯示地圖。',
             tilesMissing: '暫時無法載入地圖圖片。',
             zoomIn: '放大',
@@ -100,7 +100,7 @@ window.talvorMap = (() => {
             keyRefused: '{map} refuse la clé.',
             noAnswer: 'Impossible de charger {map}\u00a0: le service est injoignable ou ne '
                 + 'prend plus en charge ce programme.',
-            keyHint: 'La clé s’inscrit dans le fichier keys.js du dossier maps du programme.',
+            keyHint: 'La clé s’inscrit dans ce fichier\u00a0:',
             filesMissing: 'Impossible d’afficher la carte\u00a0: des fichiers du programme sont '
                 + 'manquants.',
             tilesMissing: 'Les images de la carte sont indisponibles.',
@@ -112,7 +112,7 @@ window.talvorMap = (() => {
             keyRefused: '{map} non accetta la chiave.',
             noAnswer: 'Impossibile caricare {map}: il servizio non è raggiungibile o non '
                 + 'supporta più questo programma.',
-            keyHint: 'La chiave va inserita nel file keys.js nella cartella maps del programma.',
+            keyHint: 'La chiave va inserita in questo file:',
             filesMissing: 'Impossibile mostrare la mappa: mancano alcuni file del programma.',
             tilesMissing: 'Le immagini della mappa non sono disponibili.',
             zoomIn: 'Ingrandisci',
@@ -124,7 +124,7 @@ window.talvorMap = (() => {
             keyMissing: '{map}を使うには、ご自身のキーが必要です。',
             keyRefused: '{map}がこのキーを受け付けません。',
             noAnswer: 'サービスに接続できないか、このプログラムがサポート対象外になったため、{map}を読み込めません。',
-            keyHint: 'キーはプログラムの maps フォルダーにある keys.js ファイルに入力します。',
+            keyHint: 'キーは次のファイルに入力します：',
             filesMissing: 'プログラムのファイルが不足しているため、地図を表示できません。',
             tilesMissing: '現在、地図の画像を読み込めません。',
             zoomIn: '拡大',
@@ -137,7 +137,7 @@ window.talvorMap = (() => {
             keyRefused: 'Usługa {map} nie przyjmuje klucza.',
             noAnswer: 'Nie można wczytać usługi {map}: jest nieosiągalna lub nie obsługuje już '
                 + 'tego programu.',
-            keyHint: 'Klucz należy wpisać do pliku keys.js w folderze maps programu.',
+            keyHint: 'Klucz należy wpisać do tego pliku:',
             filesMissing: 'Nie można wyświetlić mapy: brakuje plików programu.',
             tilesMissing: 'W tej chwili nie można wczytać obrazów mapy.',
             zoomIn: 'Powiększ',
@@ -150,7 +150,7 @@ window.talvorMap = (() => {
             keyRefused: 'Сервис «{map}» не принимает ключ.',
             noAnswer: 'Не удалось загрузить «{map}»: сервис недоступен или больше не '
                 + 'поддерживает эту программу.',
-            keyHint: 'Ключ указывается в файле keys.js в папке maps программы.',
+            keyHint: 'Ключ указывается в этом файле:',
             filesMissing: 'Не удалось показать карту: не хватает файлов программы.',
             tilesMissing: 'Сейчас не удаётся загрузить изображения карты.',
             zoomIn: 'Приблизить',
@@ -161,7 +161,7 @@ window.talvorMap = (() => {
             keyRefused: '{map} nimmt den Schlüssel nicht an.',
             noAnswer: '{map} lässt sich nicht laden: Der Dienst ist nicht erreichbar oder '
                 + 'unterstützt dieses Programm nicht mehr.',
-            keyHint: 'Der Schlüssel gehört in die Datei keys.js im Ordner maps des Programms.',
+            keyHint: 'Der Schlüssel gehört in diese Datei:',
             filesMissing: 'Die Karte kann nicht angezeigt werden, weil Dateien des Programms '
                 + 'fehlen.',
             tilesMissing: 'Die Kartenbilder lassen sich zurzeit nicht laden.',
@@ -173,8 +173,7 @@ window.talvorMap = (() => {
             keyRefused: '{map} no acepta la clave.',
             noAnswer: 'No se puede cargar {map}: el servicio no está disponible o ya no es '
                 + 'compatible con este programa.',
-            keyHint: 'La clave se introduce en el archivo keys.js de la carpeta maps del '
-                + 'programa.',
+            keyHint: 'La clave se introduce en este archivo:',
             filesMissing: 'No se puede mostrar el mapa: faltan archivos del programa.',
             tilesMissing: 'Las imágenes del mapa no están disponibles.',
             zoomIn: 'Acercar',
@@ -185,8 +184,7 @@ window.talvorMap = (() => {
             keyRefused: 'O {map} não aceita a chave.',
             noAnswer: 'Não foi possível carregar o {map}: o serviço está inacessível ou já não '
                 + 'suporta este programa.',
-            keyHint: 'A chave deve ser introduzida no ficheiro keys.js da pasta maps do '
-                + 'programa.',
+            keyHint: 'A chave deve ser introduzida neste ficheiro:',
             filesMissing: 'Não é possível mostrar o mapa: faltam ficheiros do programa.',
             tilesMissing: 'As imagens do mapa não estão disponíveis.',
             zoomIn: 'Ampliar',
@@ -198,7 +196,7 @@ window.talvorMap = (() => {
             keyMissing: '{map}를 사용하려면 본인의 키가 필요합니다.',
             keyRefused: '{map}가 이 키를 거부했습니다.',
             noAnswer: '서비스에 연결할 수 없거나 이 프로그램이 더 이상 지원되지 않아 {map}를 불러올 수 없습니다.',
-            keyHint: '키는 프로그램의 maps 폴더에 있는 keys.js 파일에 입력합니다.',
+            keyHint: '키는 다음 파일에 입력합니다:',
             filesMissing: '프로그램 파일이 없어 지도를 표시할 수 없습니다.',
             tilesMissing: '지금은 지도 이미지를 불러올 수 없습니다.',
             zoomIn: '확대',
@@ -208,6 +206,11 @@ window.talvorMap = (() => {
     TEXTS['zh-HK'] = TEXTS['zh-TW'];
 
     const KEY_FAULTS = ['keyMissing', 'keyRefused'];
+
+    // The program tells the key for this page, and the path of the user's file with keys, which is
+    // nothing for the provider's script to read. A browser tells neither.
+    const { file: keyFile = 'mapkeys.ini', ...keys } = window.talvorMapKeys || {};
+    delete window.talvorMapKeys;
 
     const GCJ_RADIUS_M = 6378245.0;
     const GCJ_ECCENTRICITY_SQUARED = 0.00669342162296594323;
@@ -600,9 +603,26 @@ window.talvorMap = (() => {
     function fail(textName) {
         clearTimeout(timeout);
         const sentence = texts[textName].replace('{map}', texts[adapter.key]);
-        const hint = KEY_FAULTS.includes(textName) ? '\n\n' + texts.keyHint : '';
-        messageElement.textContent = sentence + hint;
+        const text = document.createElement('span');
+        text.append(sentence);
+        if (KEY_FAULTS.includes(textName))
+            text.append('\n\n' + texts.keyHint + '\n', pathElement());
+        messageElement.textContent = '';
+        messageElement.append(text);
         messageElement.hidden = false;
+    }
+
+    /**
+     * The path of the user's file with keys. A click selects and copies it: neither the keyboard
+     * nor a menu reaches the map.
+     */
+    function pathElement() {
+        const element = document.createElement('bdi');
+        element.dir = 'ltr';
+        element.className = 'path';
+        element.textContent = keyFile;
+        element.addEventListener('click', () => document.execCommand('copy'));
+        return element;
     }
 
     /** A quiet line in the corner of the map; without a name of a text there is none. */
@@ -628,22 +648,17 @@ window.talvorMap = (() => {
 
     function loadProvider() {
         const script = document.createElement('script');
-        script.src = adapter.scriptUrl(encodeURIComponent(keyOf(adapter)), language);
+        script.src = adapter.scriptUrl(encodeURIComponent(keys[adapter.key]), language);
         script.onerror = () => fail('noAnswer');
         timeout = setTimeout(fail, PROVIDER_TIMEOUT_MS, 'noAnswer');
         document.head.append(script);
-    }
-
-    function keyOf({ key }) {
-        const keys = window.talvorMapKeys || {}; // Users may have broken or removed the file.
-        return typeof keys[key] === 'string' ? keys[key].trim() : '';
     }
 
     function use(pageAdapter) {
         adapter = pageAdapter;
         if (!adapter.scriptUrl)
             providerReady();
-        else if (!keyOf(adapter))
+        else if (!keys[adapter.key])
             fail('keyMissing');
         else // A server that never answers must not keep the page from counting as loaded.
             window.addEventListener('load', () => setTimeout(loadProvider));

@@ -82,9 +82,7 @@ void Configuration::ReleaseInstance()
 
 Configuration::Configuration()
 {
-    const QString directory =
-        firstLocation(QStandardPaths::AppLocalDataLocation, QCoreApplication::applicationDirPath());
-    const QString path = directory + QStringLiteral("/configuration.ini");
+    const QString path = directory() + QStringLiteral("/configuration.ini");
     qDebug() << path;
     mSettings = new QSettings(path, QSettings::IniFormat, this);
     mSettings->setIniCodec("UTF-8"); // as editors write; without it they would read Latin-1
@@ -182,6 +180,12 @@ bool Configuration::getMainwindowsIsMaximize()
 void Configuration::setMainwindowsIsMaximize(bool maximized)
 {
     store(MainwindowsIsMaximizeKey, maximized);
+}
+
+QString Configuration::directory()
+{
+    return firstLocation(QStandardPaths::AppLocalDataLocation,
+                         QCoreApplication::applicationDirPath());
 }
 
 QString Configuration::defaultScreenshotSavePath()

@@ -93,6 +93,9 @@ public:
     bool getMainwindowsIsMaximize();
     void setMainwindowsIsMaximize(bool maximized);
 
+    /** The folder of the settings file, which may not exist yet. */
+    static QString directory();
+
     /** The folder for screenshots while none is set: the application's own below the pictures. */
     static QString defaultScreenshotSavePath();
 

@@ -16,6 +16,8 @@
 #include <QTime>
 #include <QUrl>
 #include <QWebEngineProfile>
+#include <QWebEngineScript>
+#include <QWebEngineScriptCollection>
 #include <QWebEngineView>
 
 #include <iterator>
@@ -31,6 +33,7 @@ constexpr int TileCacheBytes = 100 * 1024 * 1024;
 constexpr QRgb MapBackground = qRgb(37, 37, 40); // that of the pages, which paint it too late
 
 const char GooglePagePrefix[] = "WG_";
+const QString KeyScript = QStringLiteral("keys");
 
 // By language, as the settings number them; the last is for all others.
 const char *const GooglePages[] = {
@@ -83,6 +86,22 @@ QString fixed(double degrees)
     return QStringLiteral("%1").arg(degrees, 0, 'f', 6);
 }
 
+/** Tells a page of its key before its own scripts run. The page before it may be loading still, and
+ *  another may take its place: neither is told. */
+QWebEngineScript keyScript(const QString &fileName, const QByteArray &keys)
+{
+    const QString source = QStringLiteral(
+        "if (location.protocol === 'file:' && location.pathname.endsWith('/maps/%1'))"
+        " window.talvorMapKeys = %2;");
+    QWebEngineScript script;
+    script.setName(KeyScript);
+    script.setSourceCode(source.arg(fileName, QString::fromUtf8(keys)));
+    script.setInjectionPoint(QWebEngineScript::DocumentCreation);
+    script.setWorldId(QWebEngineScript::MainWorld);
+    script.setRunsOnSubFrames(false);
+    return script;
+}
+
 } // namespace
 
 MapWebView::MapWebView(QWidget *parent) : QWidget(parent)
@@ -90,6 +109,7 @@ MapWebView::MapWebView(QWidget *parent) : QWidget(parent)
     qRegisterMetaType<QVector<QVector<double>>>("QVector<QVector<double> >");
     qRegisterMetaType<QVector<double>>("QVector<double>");
     setupWebView();
+    mKeys.createUserFile();
     setMapType(Configuration::GetInstance()->maps());
     if (parent)
         topWindow = parent->window();
@@ -146,10 +166,10 @@ void MapWebView::setMapType(MapTypes type)
     switch (type) {
     case MapBaidu:
         qDebug() << "百度地图 setMapType map-baidu";
-        loadPage(QStringLiteral("BaiduMapIndex.html"));
+        loadPageOf(type, QStringLiteral("BaiduMapIndex.html"));
         break;
     case MapGoogle:
-        loadPage(QLatin1String(GooglePagePrefix) + QLatin1String(ofLanguage(GooglePages)));
+        loadPageOf(type, QLatin1String(GooglePagePrefix) + QLatin1String(ofLanguage(GooglePages)));
         qDebug() << "谷歌地图 SetMapType Google Map";
         break;
     case MapOpenStreetMap:
@@ -247,6 +267,17 @@ void MapWebView::loadPage(const QString &fileName)
                                      QStringLiteral("/maps/") + fileName));
 }
 
+/** With the provider's key and no other. */
+void MapWebView::loadPageOf(MapTypes provider, const QString &fileName)
+{
+    QWebEngineScriptCollection &scripts = webView->page()->scripts();
+    scripts.remove(scripts.findScript(KeyScript));
+    const QByteArray keys = mKeys.forPage(provider);
+    if (!keys.isEmpty())
+        scripts.insert(keyScript(fileName, keys));
+    loadPage(fileName);
+}
+
 void MapWebView::loadPageAgain()
 {
     setMapType(Configuration::GetInstance()->maps());
@@ -254,7 +285,7 @@ void MapWebView::loadPageAgain()
 
 void MapWebView::loadOpenStreetMap()
 {
-    loadPage(QStringLiteral("OpenStreetMap.html"));
+    loadPageOf(MapOpenStreetMap, QStringLiteral("OpenStreetMap.html"));
     delay_time(PageLoadMs);
     const MapCentre &centre = ofLanguage(Centres);
     runScript(QStringLiteral("showMapCenter(%1, %2);").arg(centre.longitude).arg(centre.latitude));

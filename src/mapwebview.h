@@ -3,6 +3,7 @@
 #pragma once
 
 #include "configuration.h"
+#include "mapkeys.h"
 #include "mappoint.h"
 
 #include <QVector>
@@ -34,7 +35,8 @@ class MapWebView : public QWidget
     Q_OBJECT
 
 public:
-    /** Loads the page of the configured provider at once. */
+    /** Loads the page of the configured provider at once. Makes sure that the user has a file to
+     * put keys into. */
     explicit MapWebView(QWidget *parent = nullptr);
     ~MapWebView() override;
 
@@ -54,8 +56,9 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 public slots:
-    /** Loads the provider's page, in the configured language where the provider has one for each.
-     *  OpenStreetMap is waited for, centred, and given the track again (GPSUser). */
+    /** Loads the provider's page, in the configured language where the provider has one for each,
+     *  with the key for it that the files hold by now. OpenStreetMap is waited for, centred, and
+     * given the track again (GPSUser). */
     void setMapType(MapTypes type);
     /** Extends the live track by a point, which must be a position. */
     void addPoint(const MapPoint &point);
@@ -75,6 +78,7 @@ protected:
 private:
     void setupWebView();
     void loadPage(const QString &fileName);
+    void loadPageOf(MapTypes provider, const QString &fileName);
     void loadPageAgain();
     void keepTilesOnDisk(QWebEngineProfile *profile);
     void loadOpenStreetMap();
@@ -86,6 +90,7 @@ private:
     QWidget *topWindow = nullptr; ///< the window that this widget lies in, may be null
     bool allDataLoaded = false;   ///< a track was offered, whether or not the page took it
 
+    const MapKeys mKeys = MapKeys::ofProgram();
     OverlayWindow *mOverlay = nullptr;
     PageCalls *mCalls = nullptr;
     int mDropCount = 0; // a track that is older than the last of these is given up

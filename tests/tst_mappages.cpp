@@ -14,6 +14,8 @@
 #include <QTestEventLoop>
 #include <QtMath>
 #include <QWebEngineProfile>
+#include <QWebEngineScript>
+#include <QWebEngineScriptCollection>
 #include <QWebEngineUrlRequestInterceptor>
 #include <QWebEngineView>
 
@@ -24,6 +26,9 @@
 namespace {
 
 constexpr int AnswerSeconds = 60;
+const QString KeyFile = QStringLiteral(
+    "/home/Zoë  Müller/.local/share/Приложение/アプリケーション/<b>&amp;/mapkeys.ini");
+const QString AllKeys = QStringLiteral("{google: 'g&k', baidu: 'b&k', file: '%1'}").arg(KeyFile);
 constexpr double MetresPerDegree = 111195.0;
 const QString OpenStreetMap = QStringLiteral("OpenStreetMap");
 const QString Google = QStringLiteral("WG_GoogleMapIndex_en");
@@ -148,11 +153,12 @@ private slots:
     void datum();
     void missingKey_data();
     void missingKey();
+    void pathsOfAnyLength_data();
+    void pathsOfAnyLength();
+    void keysAreNotForTheProvider();
     void unusableProviders_data() { providers(); }
     void unusableProviders();
     void lateProviders();
-    void keysThatAreNone_data();
-    void keysThatAreNone();
     void tilesThatFail();
     void namesAreThoseOfTheDialog();
 
@@ -160,6 +166,7 @@ private:
     static void providers();
     void open(const QString &page, const QString &folder = QStringLiteral(MAPS_FOLDER));
     void openStandIn(const QString &page);
+    void tellPages(const QString &keys);
     QString folderWith(const QString &googleScript, const QString &baiduScript);
     QVariant run(const QString &script);
     QVariant state(const char *field);
@@ -187,17 +194,24 @@ void tst_MapPages::init()
     QVERIFY(QTest::qWaitForWindowExposed(mView.get()));
 }
 
-/** A copy of the pages with keys, which finds the providers' scripts elsewhere. */
+/** As the program does, which is told of no key that is not the page's own. */
+void tst_MapPages::tellPages(const QString &keys)
+{
+    QWebEngineScript script;
+    script.setSourceCode(QStringLiteral("window.talvorMapKeys = %1").arg(keys));
+    script.setInjectionPoint(QWebEngineScript::DocumentCreation);
+    script.setWorldId(QWebEngineScript::MainWorld);
+    mView->page()->scripts().clear();
+    mView->page()->scripts().insert(script);
+}
+
+/** A copy of the pages which finds the providers' scripts elsewhere. */
 QString tst_MapPages::folderWith(const QString &googleScript, const QString &baiduScript)
 {
     const QString folder = mFolder.filePath(QString::number(++mFolderCount));
     QProcess::execute(QStringLiteral("cp"), {QStringLiteral("-r"), MAPS_FOLDER, folder});
-    const QString keys = folder + QLatin1String("/keys.js");
-    const bool done =
-        replaceIn(keys, QStringLiteral("google: ''"), QStringLiteral("google: 'k'")) &&
-        replaceIn(keys, QStringLiteral("baidu: ''"), QStringLiteral("baidu: ' k '")) &&
-        replaceIn(folder + QLatin1String("/google.js"), GoogleScript, googleScript) &&
-        replaceIn(folder + QLatin1String("/baidu.js"), BaiduScript, baiduScript);
+    const bool done = replaceIn(folder + QLatin1String("/google.js"), GoogleScript, googleScript) &&
+                      replaceIn(folder + QLatin1String("/baidu.js"), BaiduScript, baiduScript);
     return done ? folder : QString();
 }
 
@@ -215,6 +229,7 @@ void tst_MapPages::openStandIn(const QString &page)
     const QString folder = QUrl::fromLocalFile(QStringLiteral(MAP_STANDINS))
                                .toString()
                                .replace(QLatin1Char('\''), QLatin1String("%27")); // within quotes
+    tellPages(AllKeys);
     open(page,
          folderWith(folder + QLatin1String("/google.js"), folder + QLatin1String("/baidu.js")));
     QTRY_VERIFY(run(QStringLiteral("'standIn' in window")).toBool());
@@ -609,11 +624,64 @@ void tst_MapPages::missingKey()
 {
     QFETCH(QString, sentence);
     mProfile->setHttpAcceptLanguage(QStringLiteral("ja")); // for the page in no language of its own
-    open(QLatin1String(QTest::currentDataTag()));
-    const QString message = state("message").toString();
-    QVERIFY2(message.startsWith(sentence), qPrintable(message));
-    QVERIFY(message.contains(QLatin1String("keys.js")));
+    QString hint;
+    // In a browser the page knows the name of the file only.
+    for (const QString &file : {QStringLiteral("mapkeys.ini"), KeyFile}) {
+        open(QLatin1String(QTest::currentDataTag()));
+        const QString message = state("message").toString();
+        QVERIFY2(message.startsWith(sentence) && message.endsWith(QLatin1Char('\n') + file),
+                 qPrintable(message));
+        hint = message.mid(sentence.size(), message.size() - sentence.size() - file.size());
+        QVERIFY2(hint.trimmed().size() > 5, qPrintable(hint));
+        tellPages(QStringLiteral("{file: '%1'}").arg(KeyFile));
+    }
+    if (run(QStringLiteral("document.documentElement.lang.slice(0, 2) !== 'en'")).toBool())
+        QVERIFY(hint != run(QStringLiteral("`\\n\\n${talvorMap.textsIn('en').keyHint}\\n`")));
     QVERIFY(mBlocker.hosts.isEmpty());
+}
+
+void tst_MapPages::pathsOfAnyLength_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::newRow("blanks, letters of all sorts and tags") << KeyFile;
+    QTest::newRow("no place for a break") << QString(300, QLatin1Char('m'));
+    QTest::newRow("higher than the view") << QString(3000, QLatin1Char('m'));
+}
+
+/** They stay within the width, can be scrolled to as a whole, and are text only. */
+void tst_MapPages::pathsOfAnyLength()
+{
+    QFETCH(QString, path);
+    mView->resize(300, 180);
+    tellPages(QStringLiteral("{file: '%1'}").arg(path));
+    open(Google);
+    run(QStringLiteral("const box = document.getElementById('message');"
+                       "const place = document.querySelector('.path');"
+                       "const text = box.firstElementChild.getBoundingClientRect();"
+                       "getSelection().selectAllChildren(place);"));
+    QCOMPARE(run(QStringLiteral("place.textContent")).toString(), path);
+    QCOMPARE(run(QStringLiteral("getSelection().toString()")).toString(), path);
+    QCOMPARE(run(QStringLiteral("box.querySelectorAll('b').length")).toInt(), 0);
+    QVERIFY(run(QStringLiteral("box.scrollWidth <= innerWidth && text.left >= 0 &&"
+                               " text.right <= innerWidth && text.top >= 0 &&"
+                               " text.bottom <= box.scrollHeight"))
+                .toBool());
+}
+
+/** Neither the path, which tells the user's name, nor a key that it has not been given. */
+void tst_MapPages::keysAreNotForTheProvider()
+{
+    openStandIn(Google);
+    QCOMPARE(run(QStringLiteral("typeof talvorMapKeys")).toString(), QStringLiteral("undefined"));
+    QCOMPARE(run(QStringLiteral("new URL(document.querySelector('[src*=standins]').src)"
+                                "    .searchParams.get('key')"))
+                 .toString(),
+             QStringLiteral("g&k"));
+    openStandIn(Baidu);
+    QCOMPARE(run(QStringLiteral("new URL(document.querySelector('[src*=standins]').src)"
+                                "    .searchParams.get('ak')"))
+                 .toString(),
+             QStringLiteral("b&k"));
 }
 
 void tst_MapPages::unusableProviders()
@@ -624,7 +692,7 @@ void tst_MapPages::unusableProviders()
     QCOMPARE(state("message").toString(), QString());
     run(QStringLiteral("standIn.answer(); standIn.refuseKey();"));
     const QString refused = state("message").toString();
-    QVERIFY(refused.contains(QLatin1String("keys.js")));
+    QVERIFY(refused.endsWith(QLatin1Char('\n') + KeyFile));
 
     openStandIn(page); // fails in a web engine that is too old for it
     run(QStringLiteral("delete window.BMap; delete window.google; standIn.answer();"));
@@ -641,7 +709,9 @@ void tst_MapPages::lateProviders()
     QTcpServer server; // accepts, and says nothing
     QVERIFY(server.listen(QHostAddress::LocalHost));
     const QString silent = QStringLiteral("http://127.0.0.1:%1/").arg(server.serverPort());
-    open(Google, folderWith(silent, silent));
+    tellPages(AllKeys);
+    const QString folder = folderWith(silent, silent);
+    open(Google, folder);
     QTRY_VERIFY(server.hasPendingConnections());
 
     openStandIn(Google);
@@ -651,24 +721,6 @@ void tst_MapPages::lateProviders()
     run(QStringLiteral("standIn.answer()")); // after all
     QTRY_COMPARE(state("drivenPoints").toInt(), 2);
     QCOMPARE(state("message").toString(), QString());
-}
-
-void tst_MapPages::keysThatAreNone_data()
-{
-    QTest::addColumn<QString>("key");
-    for (const char *key : {"12", "null", "{a: 1}", "['k']", "'  '", "undefined", "k"})
-        QTest::newRow(key) << key;
-}
-
-void tst_MapPages::keysThatAreNone()
-{
-    QFETCH(QString, key);
-    const QString folder = folderWith(GoogleScript, BaiduScript);
-    QVERIFY(replaceIn(folder + QLatin1String("/keys.js"), QStringLiteral("'k'"), key));
-    open(Google, folder);
-    const QString message = state("message").toString();
-    QVERIFY2(message.startsWith(QLatin1String("Google Maps needs a key")), qPrintable(message));
-    QVERIFY(mBlocker.hosts.isEmpty());
 }
 
 /** A line says so, and they are asked for again: ever more rarely, but soon when there is hope. */

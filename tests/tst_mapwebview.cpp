@@ -5,6 +5,7 @@
 #include "mapwebview.h"
 #include "patience.h"
 
+#include <QClipboard>
 #include <QCloseEvent>
 #include <QDesktopServices>
 #include <QDesktopWidget>
@@ -21,6 +22,9 @@
 #include <QVBoxLayout>
 #include <QWebEnginePage>
 #include <QWebEngineProfile>
+#include <QWebEngineScript>
+#include <QWebEngineScriptCollection>
+#include <QWebEngineUrlRequestInterceptor>
 #include <QWebEngineView>
 #include <QWindow>
 
@@ -40,6 +44,38 @@ protected:
         MapWebView::runScript(call);
     }
 };
+
+/** Lets nothing leave the machine, and keeps what was asked of the providers. */
+class Providers : public QWebEngineUrlRequestInterceptor
+{
+public:
+    void interceptRequest(QWebEngineUrlRequestInfo &info) override
+    {
+        const QUrl url = info.requestUrl();
+        info.block(!url.isLocalFile());
+        if (url.host().contains("googleapis") || url.host().contains("baidu"))
+            asked.append(url);
+    }
+
+    QList<QUrl> asked;
+};
+
+/** What the page answers. */
+QString answerOf(QWebEnginePage *page, const QString &expression)
+{
+    const auto answer = std::make_shared<QString>(); // which may come too late
+    page->runJavaScript(expression, [answer](const QVariant &value) {
+        *answer = value.toString();
+        QTestEventLoop::instance().exitLoop();
+    });
+    QTestEventLoop::instance().enterLoop(15); // QTest::qWait() starves the web engine
+    return *answer;
+}
+
+QString keyFile()
+{
+    return Configuration::directory() + "/mapkeys.ini";
+}
 
 /** A window with shortcuts. */
 class Window : public QDialog
@@ -112,6 +148,10 @@ private slots:
     void bringsItsWindowToTheFront();
     void neverFlashes();
     void leavesKeyboardAndProgramAlone();
+    void eachPageGetsItsOwnKey_data();
+    void eachPageGetsItsOwnKey();
+    void newKeysCountAtOnce();
+    void copiesThePathOfTheKeys();
     void tellsServersWhoAsks();
     void opensLinksInTheBrowser();
     void offersNothingOfABrowser();
@@ -122,7 +162,9 @@ private:
     QRect place() const;
     QString stateOf(const QString &expression);
     void waitForPage();
+    void writeKeys(const QByteArray &lines);
 
+    Providers mProviders;
     std::unique_ptr<Window> mWindow;
     ListeningMap *mMap = nullptr;
     QStringList mOpened;
@@ -134,6 +176,7 @@ void TestMapWebView::init()
     QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false"));
     setLanguage(EnglishUS);
     Configuration::GetInstance()->setMaps(MapOpenStreetMap);
+    QFile::remove(keyFile());
     mWindow = std::make_unique<Window>();
     mMap = new ListeningMap(mWindow.get());
     (new QVBoxLayout(mWindow.get()))->addWidget(mMap);
@@ -153,16 +196,9 @@ QRect TestMapWebView::place() const
     return QRect(mMap->mapToGlobal(QPoint(0, 0)), mMap->size());
 }
 
-/** What the page answers. */
 QString TestMapWebView::stateOf(const QString &expression)
 {
-    const auto answer = std::make_shared<QString>(); // which may come too late
-    mView->page()->runJavaScript(expression, [answer](const QVariant &value) {
-        *answer = value.toString();
-        QTestEventLoop::instance().exitLoop();
-    });
-    QTestEventLoop::instance().enterLoop(5); // QTest::qWait() starves the web engine
-    return *answer;
+    return answerOf(mView->page(), expression);
 }
 
 /** Until it shows a map. */
@@ -536,6 +572,96 @@ void TestMapWebView::leavesKeyboardAndProgramAlone()
     tooLate.start(5000);
     QCOMPARE(QCoreApplication::exec(), 0); // ended by the last window
     QVERIFY(!mView->isVisible());
+}
+
+void TestMapWebView::writeKeys(const QByteArray &lines)
+{
+    QFile file(keyFile());
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(lines) == lines.size());
+}
+
+void TestMapWebView::eachPageGetsItsOwnKey_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::addColumn<QString>("page");
+    QTest::addColumn<QStringList>("seen");
+    QTest::newRow("Google") << 1 << "WG_GoogleMapIndex_en_talvor.html"
+                            << QStringList{"file", keyFile(), "google", "G</script>'\"\\%1\"};z"};
+    QTest::newRow("Baidu") << 0 << "BaiduMapIndex.html"
+                           << QStringList{"baidu", "B-key", "file", keyFile()};
+    QTest::newRow("OpenStreetMap") << 2 << "OpenStreetMap.html" << QStringList();
+    QTest::newRow("another than was loaded") << 1 << "BaiduMapIndex.html" << QStringList();
+}
+
+/** Before its own scripts run, and none in it. */
+void TestMapWebView::eachPageGetsItsOwnKey()
+{
+    QFETCH(int, type);
+    QFETCH(QString, page);
+    writeKeys("google=G</script>'\"\\%1\"};z\nbaidu=B-key\n");
+    mView->page()->setUrlRequestInterceptor(&mProviders);
+    for (const MapTypes before : {MapGoogle, MapBaidu})
+        mMap->setMapType(before);
+    mMap->setMapType(MapTypes(type));
+
+    const QTemporaryDir folder;
+    QVERIFY(QDir(folder.path()).mkdir("maps"));
+    QFile probe(folder.filePath("maps/" + page));
+    QVERIFY(probe.open(QIODevice::WriteOnly));
+    probe.write(
+        "<script>"
+        "const own = JSON.stringify(Object.entries(window.talvorMapKeys || {}).sort().flat());"
+        "const frames = [];"
+        "window.onmessage = ({ data }) => frames.push(data);"
+        "if (parent !== window)"
+        "    parent.postMessage(own, '*');"
+        "else"
+        "    document.write(`<iframe src=\"${location.href}\"></iframe>`);"
+        "</script>");
+    probe.close();
+    QWebEngineProfile profile;
+    QWebEnginePage other(&profile);
+    other.scripts().insert(mView->page()->scripts().toList());
+    QSignalSpy loaded(&other, &QWebEnginePage::loadFinished);
+    other.load(QUrl::fromLocalFile(probe.fileName()));
+    QVERIFY(loaded.wait());
+    const QByteArray own = answerOf(&other, "own").toUtf8();
+    QTEST(QJsonDocument::fromJson(own).toVariant().toStringList(), "seen");
+    QTRY_COMPARE(answerOf(&other, "frames.join()"), QString("[]"));
+}
+
+/** The whole way to the provider, from a page that says where its key belongs. */
+void TestMapWebView::newKeysCountAtOnce()
+{
+    mView->page()->setUrlRequestInterceptor(&mProviders);
+    mMap->setMapType(MapGoogle);
+    QTRY_COMPARE(stateOf("(document.querySelector('.path') || {}).textContent"), keyFile());
+    for (const char *key : {"first", "second"}) {
+        writeKeys(QByteArray("google=") + key);
+        mProviders.asked.clear();
+        mMap->setMapType(MapGoogle);
+        QTRY_VERIFY(!mProviders.asked.isEmpty());
+        QCOMPARE(QUrlQuery(mProviders.asked.at(0)).queryItemValue("key"), QString(key));
+    }
+    QCOMPARE(mProviders.asked.at(0).host(), QString("maps.googleapis.com"));
+}
+
+/** With the mouse alone: the map does not take the keyboard, and has no menu. */
+void TestMapWebView::copiesThePathOfTheKeys()
+{
+    mMap->setMapType(MapGoogle);
+    mWindow->setGeometry(100, 120, 320, 280);
+    mWindow->show();
+    QTRY_VERIFY(isOnScreen(mView));
+    QTRY_COMPARE(stateOf("(document.querySelector('.path') || {}).textContent"), keyFile());
+    const QStringList corner =
+        stateOf("const r = document.querySelector('.path').getClientRects()[0];"
+                "[r.left + 20, (r.top + r.bottom) / 2].map(Math.round).join()")
+            .split(',');
+    QGuiApplication::clipboard()->clear();
+    useMouseAt(place().topLeft() + QPoint(corner.value(0).toInt(), corner.value(1).toInt()),
+               {"click", "1"});
+    QTRY_COMPARE(QGuiApplication::clipboard()->text(), keyFile());
 }
 
 void TestMapWebView::tellsServersWhoAsks()
