@@ -3,7 +3,9 @@
 #include "mapwebview.h"
 
 #include "gpsuser.h"
+#include "linkclicks.h"
 #include "mappage.h"
+#include "maprequests.h"
 #include "overlaywindow.h"
 #include "pagecalls.h"
 
@@ -100,6 +102,22 @@ QWebEngineScript keyScript(const QString &fileName, const QByteArray &keys)
     script.setWorldId(QWebEngineScript::MainWorld);
     script.setRunsOnSubFrames(false);
     return script;
+}
+
+/** The first profile starts the web engine, which finds out by then that it may send no datagrams
+ *  (WebRTC), and programs that are started later need not know. */
+QWebEngineProfile *makeProfile(const QString &name, QObject *parent)
+{
+    const char variable[] = "QTWEBENGINE_CHROMIUM_FLAGS";
+    const bool isSet = qEnvironmentVariableIsSet(variable);
+    const QByteArray flags = qgetenv(variable);
+    qputenv(variable, flags + " --force-webrtc-ip-handling-policy=disable_non_proxied_udp");
+    auto *profile = new QWebEngineProfile(name, parent);
+    if (isSet)
+        qputenv(variable, flags);
+    else
+        qunsetenv(variable);
+    return profile;
 }
 
 } // namespace
@@ -234,10 +252,15 @@ void MapWebView::setupWebView()
 {
     webView = new QWebEngineView(this);
     // A profile with a name keeps its tiles on disk.
-    auto *profile = new QWebEngineProfile(QStringLiteral("map"), this);
+    auto *profile = makeProfile(QStringLiteral("map"), this);
     keepTilesOnDisk(profile);
     profile->setHttpUserAgent(userAgent(QStringLiteral(TALVOR_CONTACT)));
-    webView->setPage(new MapPage(profile, webView));
+    mRequests = new MapRequests(profile);
+    auto *page = new MapPage(profile, webView);
+    webView->setPage(page);
+    auto *clicks = new LinkClicks(webView);
+    connect(page, &MapPage::linkClicked, clicks, &LinkClicks::follow);
+    connect(page, &MapPage::windowWanted, clicks, &LinkClicks::followInWindow);
     webView->page()->setBackgroundColor(MapBackground);
     mCalls = new PageCalls(webView->page(), this);
     connect(mCalls, &PageCalls::pageLost, this, &MapWebView::loadPageAgain);
@@ -263,8 +286,8 @@ void MapWebView::keepTilesOnDisk(QWebEngineProfile *profile)
 void MapWebView::loadPage(const QString &fileName)
 {
     webView->page()->profile()->setHttpAcceptLanguage(QLatin1String(ofLanguage(PageLanguages)));
-    mCalls->load(QUrl::fromLocalFile(QCoreApplication::applicationDirPath() +
-                                     QStringLiteral("/maps/") + fileName));
+    mRequests->readHosts();
+    mCalls->load(QUrl::fromLocalFile(MapRequests::folder() + fileName));
 }
 
 /** With the provider's key and no other. */

@@ -11,6 +11,7 @@
 
 #include <memory>
 
+class MapRequests;
 class OverlayWindow;
 class PageCalls;
 class QLockFile;
@@ -93,6 +94,7 @@ private:
     const MapKeys mKeys = MapKeys::ofProgram();
     OverlayWindow *mOverlay = nullptr;
     PageCalls *mCalls = nullptr;
+    MapRequests *mRequests = nullptr;
     int mDropCount = 0; // a track that is older than the last of these is given up
     std::unique_ptr<QLockFile> mCacheLock;
 };

@@ -711,6 +711,8 @@ void tst_MapPages::lateProviders()
     const QString silent = QStringLiteral("http://127.0.0.1:%1/").arg(server.serverPort());
     tellPages(AllKeys);
     const QString folder = folderWith(silent, silent);
+    QVERIFY(replaceIn(QStringLiteral("%1/%2.html").arg(folder, Google),
+                      QStringLiteral("https://*.googleapis.com"), silent));
     open(Google, folder);
     QTRY_VERIFY(server.hasPendingConnections());
 
@@ -728,9 +730,10 @@ void tst_MapPages::tilesThatFail()
 {
     TileServer server;
     const QString folder = folderWith(GoogleScript, BaiduScript);
-    QVERIFY(replaceIn(folder + QLatin1String("/openstreetmap.js"),
-                      QStringLiteral("https://tile.openstreetmap.org"),
-                      QStringLiteral("http://127.0.0.1:%1").arg(server.serverPort())));
+    for (const char *file : {"/openstreetmap.js", "/OpenStreetMap.html"})
+        QVERIFY(replaceIn(folder + QLatin1String(file),
+                          QStringLiteral("https://tile.openstreetmap.org"),
+                          QStringLiteral("http://127.0.0.1:%1").arg(server.serverPort())));
     mProfile->setHttpAcceptLanguage(QStringLiteral("de"));
     open(OpenStreetMap, folder);
     run(QStringLiteral("window.waits = [];"
