@@ -152,6 +152,24 @@ void ControlPanel::setSliderMove(int deltaSeconds)
     emit sliderMoved(target);
 }
 
+void ControlPanel::stepVolume(int percent)
+{
+    mUi->hSlider_Volume->setValue(mUi->hSlider_Volume->value() + percent);
+}
+
+void ControlPanel::stepRate(int items)
+{
+    for (; items > 0; --items)
+        mUi->fcbox_Rate->on_pBtn_Down_clicked();
+    for (; items < 0; ++items)
+        mUi->fcbox_Rate->on_pBtn_Up_clicked();
+}
+
+void ControlPanel::toggleMute()
+{
+    mUi->tBtn_Mute->click();
+}
+
 void ControlPanel::setState(QMediaPlayer::State state)
 {
     if (state == mState)

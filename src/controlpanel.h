@@ -55,6 +55,12 @@ public:
     void clearRecording();
     /** Asks for a seek by @p deltaSeconds; nothing while stopped or beyond the recording. */
     void setSliderMove(int deltaSeconds);
+    /** Moves the volume's handle by @p percent of its way. */
+    void stepVolume(int percent);
+    /** Goes so many items on in the list of rates, or back if negative, as far as it reaches. */
+    void stepRate(int items);
+    /** As a click on its button. */
+    void toggleMute();
 
 signals:
     void openFile();

@@ -19,6 +19,7 @@
 #include "rowdata.h"
 #include "screenshotnotice.h"
 #include "setting.h"
+#include "shortcuts.h"
 #include "telemetrydisplays.h"
 
 #include <QDebug>
@@ -61,6 +62,8 @@ MainWindows::MainWindows(QWidget *parent)
     mUi->tbl_PlayListView->setPlaylist(mPlaylistModel);
     setupControlPanel();
     setupPlayback();
+    mShortcuts =
+        new Shortcuts(this, {mUi->wgt_ControlPanel, mUi->wgt_PlayArea, mUi->tbl_PlayListView});
     setAppName(APP_NAME);
     connectControlPanel();
     connectPlayArea();
@@ -317,7 +320,7 @@ void MainWindows::onRecordingFailed()
 
 void MainWindows::onKeyPressEvent(QKeyEvent *event)
 {
-    if (controlPlayback(*event))
+    if (mShortcuts->controlPlayback(*event))
         event->accept();
 }
 
@@ -334,7 +337,7 @@ void MainWindows::keyPressEvent(QKeyEvent *event)
         // lost the keyboard to this window.
         mUi->wgt_PlayArea->leaveFullScreen();
         event->accept();
-    } else if (controlPlayback(*event)) {
+    } else if (mShortcuts->press(*event)) {
         event->accept();
     } else {
         QDialog::keyPressEvent(event);
@@ -454,24 +457,6 @@ void MainWindows::showMaximizedState()
     mUi->pBtn_Maximize->setChecked(maximized);
     mUi->pBtn_Maximize->setToolTip(maximized ? tr("Restore Down") : tr("Maximize"));
     mUi->pBtn_Maximize->setAccessibleName(mUi->pBtn_Maximize->toolTip());
-}
-
-bool MainWindows::controlPlayback(const QKeyEvent &event)
-{
-    switch (event.key()) {
-    case Qt::Key_Space:
-        if (!event.isAutoRepeat())
-            mUi->wgt_ControlPanel->playClicked();
-        return true;
-    case Qt::Key_Left:
-        mUi->wgt_ControlPanel->setSliderMove(-1);
-        return true;
-    case Qt::Key_Right:
-        mUi->wgt_ControlPanel->setSliderMove(1);
-        return true;
-    default:
-        return false;
-    }
 }
 
 /** Whether a delivery for this row is still wanted. */

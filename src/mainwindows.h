@@ -16,6 +16,7 @@ class PendingStart;
 class PlaylistModel;
 class QKeyEvent;
 class QUrl;
+class Shortcuts;
 class TelemetryDisplays;
 struct RowData;
 
@@ -100,8 +101,6 @@ private:
     void restoreGeometryFromSettings();
 
     void showMaximizedState();
-    /** Handles the keys that control playback; returns whether it was one. */
-    bool controlPlayback(const QKeyEvent &event);
     void onRecordingDue(const RowData *row);
     void onPlaybackStateChanged(QMediaPlayer::State state);
     void onRecordingEnded();
@@ -115,6 +114,7 @@ private:
     WindowGeometry mGeometry{this};
     std::unique_ptr<TelemetryDisplays> mDisplays;
     PendingStart *mPendingStart = nullptr; // a child
+    Shortcuts *mShortcuts = nullptr;       // a child
     int mRound = 0;                        // starts and stops: those before are given up
     bool mIsStopped = false;    // or closed, and no start since: what is delivered now is too late
     bool mCameByItself = false; // the recording, because the one before it had ended

@@ -30,6 +30,11 @@ constexpr qint64 SettleAfterCommandMs = 400;
 constexpr qint64 SettleAfterCorrectionMs = 400;
 constexpr qint64 MaxSeekLagMs = 300;
 constexpr qint64 EndMarginMs = 500;
+constexpr qint64 NearEndMs = 2 * EndMarginMs; // where a seek that is lost is repeated
+
+// Most cameras take 25 or 30 pictures a second.
+constexpr double UnknownFrameMs = 40;
+constexpr float MaxFrameRate = 1000;
 
 // A seek that comes while a player changes its state may be lost.
 constexpr int SeekCheckDelayMs = 300;
@@ -75,6 +80,13 @@ private:
 QSize resolutionOf(const RowData &row)
 {
     return {row.width, row.height};
+}
+
+/** How long a picture of the recording stands, in milliseconds. */
+double frameMs(const RowData &row)
+{
+    const bool isKnown = row.frameRate >= 1 && row.frameRate <= MaxFrameRate;
+    return isKnown ? 1000 / double(row.frameRate) : UnknownFrameMs;
 }
 
 /** Whether a player has moved since the last look at it (-1 for none), which this one becomes. */
@@ -159,6 +171,45 @@ void PlayAreaManager::leaveFullScreen()
         mSecond->leaveFullScreen();
 }
 
+void PlayAreaManager::toggleFullScreen()
+{
+    const bool isFull = mMain->isFullScreen() || (mSecond && mSecond->isFullScreen());
+    if (isFull)
+        leaveFullScreen();
+    else
+        mMain->enterFullScreen();
+}
+
+void PlayAreaManager::stepFrames(int frames)
+{
+    if (state() == QMediaPlayer::PlayingState) {
+        pause();
+        return;
+    }
+    if (state() != QMediaPlayer::PausedState || !mMainRow)
+        return;
+    // Aims at the middle of a picture's time, which the rounding to milliseconds cannot miss.
+    const double stepMs = frameMs(*mMainRow);
+    const auto targetMs = qint64((double(shownFrame(stepMs) + frames) + 0.5) * stepMs);
+    const auto lastMs = qint64(double(mMain->player()->duration()) - stepMs / 2);
+    seekBoth(qMax<qint64>(0, qMin(targetMs, lastMs)));
+}
+
+void PlayAreaManager::seekToStart()
+{
+    if (state() != QMediaPlayer::StoppedState)
+        seekBoth(0);
+}
+
+void PlayAreaManager::seekToEnd()
+{
+    const qint64 durationMs = mMain->player()->duration();
+    if (state() == QMediaPlayer::StoppedState || durationMs <= 0)
+        return;
+    pause();
+    seekBoth(qMax<qint64>(0, durationMs - NearEndMs));
+}
+
 QMediaContent PlayAreaManager::media() const
 {
     const QMediaContent media = mMain->player()->media();
@@ -217,11 +268,7 @@ void PlayAreaManager::stop()
 
 void PlayAreaManager::seek(int seconds)
 {
-    const qint64 positionMs = toMilliseconds(seconds);
-    seekMain(positionMs);
-    if (mSecond)
-        seekSecond(positionMs);
-    holdSyncFor(SettleAfterCommandMs);
+    seekBoth(toMilliseconds(seconds));
 }
 
 void PlayAreaManager::setVolume(int volume)
@@ -397,6 +444,7 @@ void PlayAreaManager::onSecondEnded()
 void PlayAreaManager::relayKeysAndFullScreen(PlayerWidget *player)
 {
     connect(player, &PlayerWidget::keyPressSignals, this, &PlayAreaManager::keyPressSignals);
+    connect(player, &PlayerWidget::otherKeyPressed, this, &PlayAreaManager::otherKeyPressed);
     connect(player, &PlayerWidget::fullScreen, this, &PlayAreaManager::fullScreenChanged);
     connect(player, &PlayerWidget::screenshotDone, this, &PlayAreaManager::screenshotDone);
 }
@@ -499,6 +547,23 @@ void PlayAreaManager::playSecond()
         mSecond->loader()->play();
     second->setMuted(true);
     second->setPlaybackRate(mMain->player()->playbackRate());
+}
+
+/** Counted from 0. A pause amid the playing brings up the next picture already; after a seek it is
+ *  that of the position. */
+qint64 PlayAreaManager::shownFrame(double stepMs) const
+{
+    const qint64 nowMs = mMain->player()->position();
+    const bool isOfPosition = nowMs == mSoughtMs || mMain->isRefitted();
+    return qint64(double(nowMs) / stepMs) + (isOfPosition ? 0 : 1);
+}
+
+void PlayAreaManager::seekBoth(qint64 positionMs)
+{
+    seekMain(positionMs);
+    if (mSecond)
+        seekSecond(positionMs);
+    holdSyncFor(SettleAfterCommandMs);
 }
 
 void PlayAreaManager::seekMain(qint64 positionMs)

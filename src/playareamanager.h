@@ -48,6 +48,16 @@ public:
     void forgetRows();
     /** Ends a player's full screen, if there is one. */
     void leaveFullScreen();
+    /** Ends a player's full screen, or else fills the screen with the main recording. */
+    void toggleFullScreen();
+
+    /** Shows the picture so many frames after the present one, or before it if negative, of the
+     *  paused recording. One that plays is only paused. */
+    void stepFrames(int frames);
+    /** From the beginning, playing or paused as before. */
+    void seekToStart();
+    /** Pauses shortly before the end, which would start the next recording. */
+    void seekToEnd();
 
     /** The row of the main recording, null until one has been set. */
     const RowData *mainRow() const { return mMainRow; }
@@ -74,6 +84,7 @@ signals:
     void positionChanged(qint64 second, int rowId);
     // Relayed from either player.
     void keyPressSignals(QKeyEvent *event);
+    void otherKeyPressed(QKeyEvent *event);
     void fullScreenChanged(bool fullScreen);
     void screenshotDone(const ScreenshotResult &result);
     /** One dropped recording, as URL text. */
@@ -125,6 +136,8 @@ private:
     qint64 secondEndMs() const;
     bool secondHasSomethingAt(qint64 positionMs) const;
     void playSecond();
+    qint64 shownFrame(double stepMs) const;
+    void seekBoth(qint64 positionMs);
     void seekMain(qint64 positionMs);
     void seekSecond(qint64 positionMs);
     void repeatLostSeeks();

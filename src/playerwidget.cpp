@@ -40,6 +40,12 @@ PlayerWidget::~PlayerWidget()
         mCaptureThread->runUnattended();
 }
 
+void PlayerWidget::enterFullScreen()
+{
+    if (!isFullScreen())
+        changeFullScreen(true);
+}
+
 void PlayerWidget::leaveFullScreen()
 {
     if (isFullScreen())
@@ -63,6 +69,7 @@ void PlayerWidget::screenshot(qint64 postion, const QSize &resolution, bool isOr
 
 void PlayerWidget::onStateChanged(QMediaPlayer::State newState)
 {
+    mIsRefitted = false;
     // While a recording is shown, the video output draws for itself; a repaint would flicker.
     const bool stopped = newState == QMediaPlayer::StoppedState;
     setUpdatesEnabled(stopped);
@@ -161,8 +168,10 @@ void PlayerWidget::closeEvent(QCloseEvent *event)
 /** Frames are scaled when they come: a paused player shows its own once more, in the new size. */
 void PlayerWidget::fitPausedPicture()
 {
-    if (mPlayer.state() == QMediaPlayer::PausedState)
-        mPlayer.setPosition(mPlayer.position());
+    if (mPlayer.state() != QMediaPlayer::PausedState)
+        return;
+    mPlayer.setPosition(mPlayer.position());
+    mIsRefitted = true;
 }
 
 void PlayerWidget::keyPressInFullScreen(QKeyEvent *event)
@@ -179,6 +188,7 @@ void PlayerWidget::keyPressInFullScreen(QKeyEvent *event)
         event->accept();
         break;
     default:
+        emit otherKeyPressed(event);
         break;
     }
 }

@@ -35,12 +35,20 @@ public:
     MediaLoader *loader() { return &mLoader; }
     const MediaLoader *loader() const { return &mLoader; }
 
+    /** Whether the paused picture has been made anew for another size since the pause: then it is
+     *  that of the player's position. */
+    bool isRefitted() const { return mIsRefitted; }
+
+    /** Fills the screen, if it does not do so already. */
+    void enterFullScreen();
     /** Leaves full screen, if it is in it, and gives the keyboard back to the main window. */
     void leaveFullScreen();
 
 signals:
     /** A navigation key pressed in full screen; valid during the emission only. */
     void keyPressSignals(QKeyEvent *event);
+    /** Any other key but Escape pressed in full screen; valid during the emission only. */
+    void otherKeyPressed(QKeyEvent *event);
     /** Emitted before the widget enters or leaves full screen. */
     void fullScreen(bool isFull);
     /** What has become of a screenshot; one for each while the widget is there. */
@@ -75,6 +83,7 @@ private:
     QMediaPlayer mPlayer;
     MediaLoader mLoader{&mPlayer};
     QTimer mFitTimer; // from the last change of the size on
+    bool mIsRefitted = false;
     // Deleted by hand when it has finished; one that still runs outlives the widget.
     CaptureThread *mCaptureThread = nullptr;
 };

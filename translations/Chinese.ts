@@ -96,6 +96,17 @@
     </message>
 </context>
 <context>
+    <name>KeyList</name>
+    <message>
+        <source>Keys</source>
+        <translation>按键</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+</context>
+<context>
     <name>MainWindows</name>
     <message>
         <source>MainWindows</source>
@@ -383,6 +394,105 @@
     <message>
         <source>Open Directory</source>
         <translation>打开文件夹</translation>
+    </message>
+</context>
+<context>
+    <name>Shortcuts</name>
+    <message>
+        <source>Play or pause</source>
+        <translation>播放或暂停</translation>
+    </message>
+    <message>
+        <source>Beginning or end of the recording</source>
+        <translation>录像的开头或结尾</translation>
+    </message>
+    <message>
+        <source>Previous or next recording</source>
+        <translation>上一个或下一个录像</translation>
+    </message>
+    <message>
+        <source>Choose a recording in the list</source>
+        <translation>在列表中选择录像</translation>
+    </message>
+    <message>
+        <source>Play the chosen recording</source>
+        <translation>播放选中的录像</translation>
+    </message>
+    <message>
+        <source>Slower or faster</source>
+        <translation>减速或加速</translation>
+    </message>
+    <message>
+        <source>Louder or quieter</source>
+        <translation>增大或减小音量</translation>
+    </message>
+    <message>
+        <source>Sound off or on</source>
+        <translation>静音或恢复声音</translation>
+    </message>
+    <message>
+        <source>Full screen on or off</source>
+        <translation>进入或退出全屏</translation>
+    </message>
+    <message>
+        <source>Leave the full screen</source>
+        <translation>退出全屏</translation>
+    </message>
+    <message>
+        <source>Take a screenshot</source>
+        <translation>截图</translation>
+    </message>
+    <message>
+        <source>Open recordings</source>
+        <translation>打开录像</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <source>This list</source>
+        <translation>此列表</translation>
+    </message>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>空格</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation>回车</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Home</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>End</translation>
+    </message>
+    <message>
+        <source>Page Up</source>
+        <translation>Page Up</translation>
+    </message>
+    <message>
+        <source>Page Down</source>
+        <translation>Page Down</translation>
+    </message>
+    <message>
+        <source>Back or forward by a second</source>
+        <translation>后退或前进一秒</translation>
+    </message>
+    <message>
+        <source>Back or forward by a picture, paused</source>
+        <translation>暂停时后退或前进一帧</translation>
     </message>
 </context>
 </TS>

@@ -96,6 +96,17 @@
     </message>
 </context>
 <context>
+    <name>KeyList</name>
+    <message>
+        <source>Keys</source>
+        <translation>按鍵</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>關閉</translation>
+    </message>
+</context>
+<context>
     <name>MainWindows</name>
     <message>
         <source>MainWindows</source>
@@ -383,6 +394,105 @@
     <message>
         <source>Open Directory</source>
         <translation>開啟資料夾</translation>
+    </message>
+</context>
+<context>
+    <name>Shortcuts</name>
+    <message>
+        <source>Play or pause</source>
+        <translation>播放或暫停</translation>
+    </message>
+    <message>
+        <source>Beginning or end of the recording</source>
+        <translation>錄影的開頭或結尾</translation>
+    </message>
+    <message>
+        <source>Previous or next recording</source>
+        <translation>上一個或下一個錄影</translation>
+    </message>
+    <message>
+        <source>Choose a recording in the list</source>
+        <translation>在清單中選擇錄影</translation>
+    </message>
+    <message>
+        <source>Play the chosen recording</source>
+        <translation>播放選取的錄影</translation>
+    </message>
+    <message>
+        <source>Slower or faster</source>
+        <translation>減速或加速</translation>
+    </message>
+    <message>
+        <source>Louder or quieter</source>
+        <translation>增大或減小音量</translation>
+    </message>
+    <message>
+        <source>Sound off or on</source>
+        <translation>靜音或恢復聲音</translation>
+    </message>
+    <message>
+        <source>Full screen on or off</source>
+        <translation>進入或離開全螢幕</translation>
+    </message>
+    <message>
+        <source>Leave the full screen</source>
+        <translation>離開全螢幕</translation>
+    </message>
+    <message>
+        <source>Take a screenshot</source>
+        <translation>擷圖</translation>
+    </message>
+    <message>
+        <source>Open recordings</source>
+        <translation>開啟錄影</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>This list</source>
+        <translation>此清單</translation>
+    </message>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>空白鍵</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation>Enter</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Home</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>End</translation>
+    </message>
+    <message>
+        <source>Page Up</source>
+        <translation>Page Up</translation>
+    </message>
+    <message>
+        <source>Page Down</source>
+        <translation>Page Down</translation>
+    </message>
+    <message>
+        <source>Back or forward by a second</source>
+        <translation>後退或前進一秒</translation>
+    </message>
+    <message>
+        <source>Back or forward by a picture, paused</source>
+        <translation>暫停時後退或前進一格</translation>
     </message>
 </context>
 </TS>

@@ -96,6 +96,17 @@
     </message>
 </context>
 <context>
+    <name>KeyList</name>
+    <message>
+        <source>Keys</source>
+        <translation>Touches</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+</context>
+<context>
     <name>MainWindows</name>
     <message>
         <source>MainWindows</source>
@@ -383,6 +394,105 @@
     <message>
         <source>Open Directory</source>
         <translation>Ouvrir un dossier</translation>
+    </message>
+</context>
+<context>
+    <name>Shortcuts</name>
+    <message>
+        <source>Play or pause</source>
+        <translation>Lecture ou pause</translation>
+    </message>
+    <message>
+        <source>Beginning or end of the recording</source>
+        <translation>Début ou fin de l’enregistrement</translation>
+    </message>
+    <message>
+        <source>Previous or next recording</source>
+        <translation>Enregistrement précédent ou suivant</translation>
+    </message>
+    <message>
+        <source>Choose a recording in the list</source>
+        <translation>Choisir un enregistrement dans la liste</translation>
+    </message>
+    <message>
+        <source>Play the chosen recording</source>
+        <translation>Lire l’enregistrement choisi</translation>
+    </message>
+    <message>
+        <source>Slower or faster</source>
+        <translation>Plus lent ou plus rapide</translation>
+    </message>
+    <message>
+        <source>Louder or quieter</source>
+        <translation>Plus fort ou moins fort</translation>
+    </message>
+    <message>
+        <source>Sound off or on</source>
+        <translation>Couper ou rétablir le son</translation>
+    </message>
+    <message>
+        <source>Full screen on or off</source>
+        <translation>Plein écran ou fenêtre</translation>
+    </message>
+    <message>
+        <source>Leave the full screen</source>
+        <translation>Quitter le plein écran</translation>
+    </message>
+    <message>
+        <source>Take a screenshot</source>
+        <translation>Faire une capture d’écran</translation>
+    </message>
+    <message>
+        <source>Open recordings</source>
+        <translation>Ouvrir des enregistrements</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Paramètres</translation>
+    </message>
+    <message>
+        <source>This list</source>
+        <translation>Cette liste</translation>
+    </message>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Espace</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation>Entrée</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Échap</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Début</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Fin</translation>
+    </message>
+    <message>
+        <source>Page Up</source>
+        <translation>Page ↑</translation>
+    </message>
+    <message>
+        <source>Page Down</source>
+        <translation>Page ↓</translation>
+    </message>
+    <message>
+        <source>Back or forward by a second</source>
+        <translation>Une seconde en arrière ou en avant</translation>
+    </message>
+    <message>
+        <source>Back or forward by a picture, paused</source>
+        <translation>Une image en arrière ou en avant, en pause</translation>
     </message>
 </context>
 </TS>

@@ -96,6 +96,17 @@
     </message>
 </context>
 <context>
+    <name>KeyList</name>
+    <message>
+        <source>Keys</source>
+        <translation>Tasten</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+</context>
+<context>
     <name>MainWindows</name>
     <message>
         <source>MainWindows</source>
@@ -383,6 +394,105 @@
     <message>
         <source>Open Directory</source>
         <translation>Ordner öffnen</translation>
+    </message>
+</context>
+<context>
+    <name>Shortcuts</name>
+    <message>
+        <source>Play or pause</source>
+        <translation>Wiedergabe oder Pause</translation>
+    </message>
+    <message>
+        <source>Beginning or end of the recording</source>
+        <translation>Anfang oder Ende der Aufnahme</translation>
+    </message>
+    <message>
+        <source>Previous or next recording</source>
+        <translation>Vorherige oder nächste Aufnahme</translation>
+    </message>
+    <message>
+        <source>Choose a recording in the list</source>
+        <translation>Eine Aufnahme in der Liste wählen</translation>
+    </message>
+    <message>
+        <source>Play the chosen recording</source>
+        <translation>Die gewählte Aufnahme abspielen</translation>
+    </message>
+    <message>
+        <source>Slower or faster</source>
+        <translation>Langsamer oder schneller</translation>
+    </message>
+    <message>
+        <source>Louder or quieter</source>
+        <translation>Lauter oder leiser</translation>
+    </message>
+    <message>
+        <source>Sound off or on</source>
+        <translation>Ton aus oder ein</translation>
+    </message>
+    <message>
+        <source>Full screen on or off</source>
+        <translation>Vollbild ein oder aus</translation>
+    </message>
+    <message>
+        <source>Leave the full screen</source>
+        <translation>Vollbild verlassen</translation>
+    </message>
+    <message>
+        <source>Take a screenshot</source>
+        <translation>Screenshot aufnehmen</translation>
+    </message>
+    <message>
+        <source>Open recordings</source>
+        <translation>Aufnahmen öffnen</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>This list</source>
+        <translation>Diese Liste</translation>
+    </message>
+    <message>
+        <source>Ctrl</source>
+        <translation>Strg</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Leertaste</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation>Eingabe</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Pos1</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Ende</translation>
+    </message>
+    <message>
+        <source>Page Up</source>
+        <translation>Bild ↑</translation>
+    </message>
+    <message>
+        <source>Page Down</source>
+        <translation>Bild ↓</translation>
+    </message>
+    <message>
+        <source>Back or forward by a second</source>
+        <translation>Eine Sekunde zurück oder vor</translation>
+    </message>
+    <message>
+        <source>Back or forward by a picture, paused</source>
+        <translation>Ein Bild zurück oder vor, bei Pause</translation>
     </message>
 </context>
 </TS>

@@ -96,6 +96,17 @@
     </message>
 </context>
 <context>
+    <name>KeyList</name>
+    <message>
+        <source>Keys</source>
+        <translation>Tasti</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+</context>
+<context>
     <name>MainWindows</name>
     <message>
         <source>MainWindows</source>
@@ -383,6 +394,105 @@
     <message>
         <source>Open Directory</source>
         <translation>Apri cartella</translation>
+    </message>
+</context>
+<context>
+    <name>Shortcuts</name>
+    <message>
+        <source>Play or pause</source>
+        <translation>Riproduzione o pausa</translation>
+    </message>
+    <message>
+        <source>Beginning or end of the recording</source>
+        <translation>Inizio o fine della registrazione</translation>
+    </message>
+    <message>
+        <source>Previous or next recording</source>
+        <translation>Registrazione precedente o successiva</translation>
+    </message>
+    <message>
+        <source>Choose a recording in the list</source>
+        <translation>Scegli una registrazione nell’elenco</translation>
+    </message>
+    <message>
+        <source>Play the chosen recording</source>
+        <translation>Riproduci la registrazione scelta</translation>
+    </message>
+    <message>
+        <source>Slower or faster</source>
+        <translation>Più lento o più veloce</translation>
+    </message>
+    <message>
+        <source>Louder or quieter</source>
+        <translation>Volume più alto o più basso</translation>
+    </message>
+    <message>
+        <source>Sound off or on</source>
+        <translation>Audio disattivato o attivo</translation>
+    </message>
+    <message>
+        <source>Full screen on or off</source>
+        <translation>Schermo intero attivo o disattivato</translation>
+    </message>
+    <message>
+        <source>Leave the full screen</source>
+        <translation>Esci dallo schermo intero</translation>
+    </message>
+    <message>
+        <source>Take a screenshot</source>
+        <translation>Cattura una schermata</translation>
+    </message>
+    <message>
+        <source>Open recordings</source>
+        <translation>Apri registrazioni</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Impostazioni</translation>
+    </message>
+    <message>
+        <source>This list</source>
+        <translation>Questo elenco</translation>
+    </message>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Spazio</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation>Invio</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Home</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Fine</translation>
+    </message>
+    <message>
+        <source>Page Up</source>
+        <translation>Pag ↑</translation>
+    </message>
+    <message>
+        <source>Page Down</source>
+        <translation>Pag ↓</translation>
+    </message>
+    <message>
+        <source>Back or forward by a second</source>
+        <translation>Indietro o avanti di un secondo</translation>
+    </message>
+    <message>
+        <source>Back or forward by a picture, paused</source>
+        <translation>Indietro o avanti di un fotogramma, in pausa</translation>
     </message>
 </context>
 </TS>

@@ -96,6 +96,17 @@
     </message>
 </context>
 <context>
+    <name>KeyList</name>
+    <message>
+        <source>Keys</source>
+        <translation>キー操作</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+</context>
+<context>
     <name>MainWindows</name>
     <message>
         <source>MainWindows</source>
@@ -383,6 +394,105 @@
     <message>
         <source>Open Directory</source>
         <translation>フォルダーを開く</translation>
+    </message>
+</context>
+<context>
+    <name>Shortcuts</name>
+    <message>
+        <source>Play or pause</source>
+        <translation>再生または一時停止</translation>
+    </message>
+    <message>
+        <source>Beginning or end of the recording</source>
+        <translation>録画の先頭、末尾</translation>
+    </message>
+    <message>
+        <source>Previous or next recording</source>
+        <translation>前の録画、次の録画</translation>
+    </message>
+    <message>
+        <source>Choose a recording in the list</source>
+        <translation>リストの録画を選ぶ</translation>
+    </message>
+    <message>
+        <source>Play the chosen recording</source>
+        <translation>選んだ録画を再生</translation>
+    </message>
+    <message>
+        <source>Slower or faster</source>
+        <translation>再生速度を下げる、上げる</translation>
+    </message>
+    <message>
+        <source>Louder or quieter</source>
+        <translation>音量を上げる、下げる</translation>
+    </message>
+    <message>
+        <source>Sound off or on</source>
+        <translation>ミュートの切り替え</translation>
+    </message>
+    <message>
+        <source>Full screen on or off</source>
+        <translation>全画面表示の切り替え</translation>
+    </message>
+    <message>
+        <source>Leave the full screen</source>
+        <translation>全画面表示を終了</translation>
+    </message>
+    <message>
+        <source>Take a screenshot</source>
+        <translation>スクリーンショットを撮る</translation>
+    </message>
+    <message>
+        <source>Open recordings</source>
+        <translation>録画を開く</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>This list</source>
+        <translation>この一覧</translation>
+    </message>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Space</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation>Enter</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Home</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>End</translation>
+    </message>
+    <message>
+        <source>Page Up</source>
+        <translation>PageUp</translation>
+    </message>
+    <message>
+        <source>Page Down</source>
+        <translation>PageDown</translation>
+    </message>
+    <message>
+        <source>Back or forward by a second</source>
+        <translation>1 秒戻る、進む</translation>
+    </message>
+    <message>
+        <source>Back or forward by a picture, paused</source>
+        <translation>一時停止中に 1 コマ戻る、進む</translation>
     </message>
 </context>
 </TS>

@@ -96,6 +96,17 @@
     </message>
 </context>
 <context>
+    <name>KeyList</name>
+    <message>
+        <source>Keys</source>
+        <translation>키</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>닫기</translation>
+    </message>
+</context>
+<context>
     <name>MainWindows</name>
     <message>
         <source>MainWindows</source>
@@ -383,6 +394,105 @@
     <message>
         <source>Open Directory</source>
         <translation>폴더 열기</translation>
+    </message>
+</context>
+<context>
+    <name>Shortcuts</name>
+    <message>
+        <source>Play or pause</source>
+        <translation>재생 또는 일시 정지</translation>
+    </message>
+    <message>
+        <source>Beginning or end of the recording</source>
+        <translation>녹화의 처음 또는 끝</translation>
+    </message>
+    <message>
+        <source>Previous or next recording</source>
+        <translation>이전 또는 다음 녹화</translation>
+    </message>
+    <message>
+        <source>Choose a recording in the list</source>
+        <translation>목록에서 녹화 선택</translation>
+    </message>
+    <message>
+        <source>Play the chosen recording</source>
+        <translation>선택한 녹화 재생</translation>
+    </message>
+    <message>
+        <source>Slower or faster</source>
+        <translation>느리게 또는 빠르게</translation>
+    </message>
+    <message>
+        <source>Louder or quieter</source>
+        <translation>소리 크게 또는 작게</translation>
+    </message>
+    <message>
+        <source>Sound off or on</source>
+        <translation>소리 끄기 또는 켜기</translation>
+    </message>
+    <message>
+        <source>Full screen on or off</source>
+        <translation>전체 화면 켜기 또는 끄기</translation>
+    </message>
+    <message>
+        <source>Leave the full screen</source>
+        <translation>전체 화면 종료</translation>
+    </message>
+    <message>
+        <source>Take a screenshot</source>
+        <translation>화면 캡처</translation>
+    </message>
+    <message>
+        <source>Open recordings</source>
+        <translation>녹화 열기</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>설정</translation>
+    </message>
+    <message>
+        <source>This list</source>
+        <translation>이 목록</translation>
+    </message>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>스페이스</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation>Enter</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Home</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>End</translation>
+    </message>
+    <message>
+        <source>Page Up</source>
+        <translation>Page Up</translation>
+    </message>
+    <message>
+        <source>Page Down</source>
+        <translation>Page Down</translation>
+    </message>
+    <message>
+        <source>Back or forward by a second</source>
+        <translation>1초 뒤로 또는 앞으로</translation>
+    </message>
+    <message>
+        <source>Back or forward by a picture, paused</source>
+        <translation>일시 정지 중 한 프레임 뒤로 또는 앞으로</translation>
     </message>
 </context>
 </TS>

@@ -96,6 +96,17 @@
     </message>
 </context>
 <context>
+    <name>KeyList</name>
+    <message>
+        <source>Keys</source>
+        <translation>Klawisze</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Zamknij</translation>
+    </message>
+</context>
+<context>
     <name>MainWindows</name>
     <message>
         <source>MainWindows</source>
@@ -383,6 +394,105 @@
     <message>
         <source>Open Directory</source>
         <translation>Otwórz folder</translation>
+    </message>
+</context>
+<context>
+    <name>Shortcuts</name>
+    <message>
+        <source>Play or pause</source>
+        <translation>Odtwarzanie lub pauza</translation>
+    </message>
+    <message>
+        <source>Beginning or end of the recording</source>
+        <translation>Początek lub koniec nagrania</translation>
+    </message>
+    <message>
+        <source>Previous or next recording</source>
+        <translation>Poprzednie lub następne nagranie</translation>
+    </message>
+    <message>
+        <source>Choose a recording in the list</source>
+        <translation>Wybór nagrania na liście</translation>
+    </message>
+    <message>
+        <source>Play the chosen recording</source>
+        <translation>Odtworzenie wybranego nagrania</translation>
+    </message>
+    <message>
+        <source>Slower or faster</source>
+        <translation>Wolniej lub szybciej</translation>
+    </message>
+    <message>
+        <source>Louder or quieter</source>
+        <translation>Głośniej lub ciszej</translation>
+    </message>
+    <message>
+        <source>Sound off or on</source>
+        <translation>Wyłączenie lub włączenie dźwięku</translation>
+    </message>
+    <message>
+        <source>Full screen on or off</source>
+        <translation>Włączenie lub wyłączenie pełnego ekranu</translation>
+    </message>
+    <message>
+        <source>Leave the full screen</source>
+        <translation>Wyjście z pełnego ekranu</translation>
+    </message>
+    <message>
+        <source>Take a screenshot</source>
+        <translation>Wykonanie zrzutu ekranu</translation>
+    </message>
+    <message>
+        <source>Open recordings</source>
+        <translation>Otwarcie nagrań</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Ustawienia</translation>
+    </message>
+    <message>
+        <source>This list</source>
+        <translation>Ta lista</translation>
+    </message>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Spacja</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation>Enter</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Home</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>End</translation>
+    </message>
+    <message>
+        <source>Page Up</source>
+        <translation>Page Up</translation>
+    </message>
+    <message>
+        <source>Page Down</source>
+        <translation>Page Down</translation>
+    </message>
+    <message>
+        <source>Back or forward by a second</source>
+        <translation>Sekunda wstecz lub naprzód</translation>
+    </message>
+    <message>
+        <source>Back or forward by a picture, paused</source>
+        <translation>Klatka wstecz lub naprzód, w pauzie</translation>
     </message>
 </context>
 </TS>

@@ -96,6 +96,17 @@
     </message>
 </context>
 <context>
+    <name>KeyList</name>
+    <message>
+        <source>Keys</source>
+        <translation>Teclas</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+</context>
+<context>
     <name>MainWindows</name>
     <message>
         <source>MainWindows</source>
@@ -383,6 +394,105 @@
     <message>
         <source>Open Directory</source>
         <translation>Abrir pasta</translation>
+    </message>
+</context>
+<context>
+    <name>Shortcuts</name>
+    <message>
+        <source>Play or pause</source>
+        <translation>Reproduzir ou pausar</translation>
+    </message>
+    <message>
+        <source>Beginning or end of the recording</source>
+        <translation>Início ou fim da gravação</translation>
+    </message>
+    <message>
+        <source>Previous or next recording</source>
+        <translation>Gravação anterior ou seguinte</translation>
+    </message>
+    <message>
+        <source>Choose a recording in the list</source>
+        <translation>Escolher uma gravação na lista</translation>
+    </message>
+    <message>
+        <source>Play the chosen recording</source>
+        <translation>Reproduzir a gravação escolhida</translation>
+    </message>
+    <message>
+        <source>Slower or faster</source>
+        <translation>Mais lento ou mais rápido</translation>
+    </message>
+    <message>
+        <source>Louder or quieter</source>
+        <translation>Mais alto ou mais baixo</translation>
+    </message>
+    <message>
+        <source>Sound off or on</source>
+        <translation>Desligar ou ligar o som</translation>
+    </message>
+    <message>
+        <source>Full screen on or off</source>
+        <translation>Ecrã inteiro ligado ou desligado</translation>
+    </message>
+    <message>
+        <source>Leave the full screen</source>
+        <translation>Sair do ecrã inteiro</translation>
+    </message>
+    <message>
+        <source>Take a screenshot</source>
+        <translation>Fazer uma captura de ecrã</translation>
+    </message>
+    <message>
+        <source>Open recordings</source>
+        <translation>Abrir gravações</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Definições</translation>
+    </message>
+    <message>
+        <source>This list</source>
+        <translation>Esta lista</translation>
+    </message>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Espaço</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation>Enter</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Home</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>End</translation>
+    </message>
+    <message>
+        <source>Page Up</source>
+        <translation>Page Up</translation>
+    </message>
+    <message>
+        <source>Page Down</source>
+        <translation>Page Down</translation>
+    </message>
+    <message>
+        <source>Back or forward by a second</source>
+        <translation>Um segundo para trás ou para a frente</translation>
+    </message>
+    <message>
+        <source>Back or forward by a picture, paused</source>
+        <translation>Um fotograma para trás ou para a frente, em pausa</translation>
     </message>
 </context>
 </TS>

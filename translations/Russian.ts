@@ -96,6 +96,17 @@
     </message>
 </context>
 <context>
+    <name>KeyList</name>
+    <message>
+        <source>Keys</source>
+        <translation>Клавиши</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрыть</translation>
+    </message>
+</context>
+<context>
     <name>MainWindows</name>
     <message>
         <source>MainWindows</source>
@@ -383,6 +394,105 @@
     <message>
         <source>Open Directory</source>
         <translation>Открыть папку</translation>
+    </message>
+</context>
+<context>
+    <name>Shortcuts</name>
+    <message>
+        <source>Play or pause</source>
+        <translation>Воспроизведение или пауза</translation>
+    </message>
+    <message>
+        <source>Beginning or end of the recording</source>
+        <translation>Начало или конец записи</translation>
+    </message>
+    <message>
+        <source>Previous or next recording</source>
+        <translation>Предыдущая или следующая запись</translation>
+    </message>
+    <message>
+        <source>Choose a recording in the list</source>
+        <translation>Выбрать запись в списке</translation>
+    </message>
+    <message>
+        <source>Play the chosen recording</source>
+        <translation>Воспроизвести выбранную запись</translation>
+    </message>
+    <message>
+        <source>Slower or faster</source>
+        <translation>Медленнее или быстрее</translation>
+    </message>
+    <message>
+        <source>Louder or quieter</source>
+        <translation>Громче или тише</translation>
+    </message>
+    <message>
+        <source>Sound off or on</source>
+        <translation>Выключить или включить звук</translation>
+    </message>
+    <message>
+        <source>Full screen on or off</source>
+        <translation>Полный экран: включить или выключить</translation>
+    </message>
+    <message>
+        <source>Leave the full screen</source>
+        <translation>Выйти из полного экрана</translation>
+    </message>
+    <message>
+        <source>Take a screenshot</source>
+        <translation>Сделать снимок кадра</translation>
+    </message>
+    <message>
+        <source>Open recordings</source>
+        <translation>Открыть записи</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Настройки</translation>
+    </message>
+    <message>
+        <source>This list</source>
+        <translation>Этот список</translation>
+    </message>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Пробел</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation>Enter</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Home</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>End</translation>
+    </message>
+    <message>
+        <source>Page Up</source>
+        <translation>Page Up</translation>
+    </message>
+    <message>
+        <source>Page Down</source>
+        <translation>Page Down</translation>
+    </message>
+    <message>
+        <source>Back or forward by a second</source>
+        <translation>На секунду назад или вперёд</translation>
+    </message>
+    <message>
+        <source>Back or forward by a picture, paused</source>
+        <translation>На кадр назад или вперёд, на паузе</translation>
     </message>
 </context>
 </TS>

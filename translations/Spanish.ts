@@ -96,6 +96,17 @@
     </message>
 </context>
 <context>
+    <name>KeyList</name>
+    <message>
+        <source>Keys</source>
+        <translation>Teclas</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+</context>
+<context>
     <name>MainWindows</name>
     <message>
         <source>MainWindows</source>
@@ -383,6 +394,105 @@
     <message>
         <source>Open Directory</source>
         <translation>Abrir carpeta</translation>
+    </message>
+</context>
+<context>
+    <name>Shortcuts</name>
+    <message>
+        <source>Play or pause</source>
+        <translation>Reproducir o pausar</translation>
+    </message>
+    <message>
+        <source>Beginning or end of the recording</source>
+        <translation>Principio o final de la grabación</translation>
+    </message>
+    <message>
+        <source>Previous or next recording</source>
+        <translation>Grabación anterior o siguiente</translation>
+    </message>
+    <message>
+        <source>Choose a recording in the list</source>
+        <translation>Elegir una grabación de la lista</translation>
+    </message>
+    <message>
+        <source>Play the chosen recording</source>
+        <translation>Reproducir la grabación elegida</translation>
+    </message>
+    <message>
+        <source>Slower or faster</source>
+        <translation>Más lento o más rápido</translation>
+    </message>
+    <message>
+        <source>Louder or quieter</source>
+        <translation>Más alto o más bajo</translation>
+    </message>
+    <message>
+        <source>Sound off or on</source>
+        <translation>Quitar o activar el sonido</translation>
+    </message>
+    <message>
+        <source>Full screen on or off</source>
+        <translation>Activar o dejar la pantalla completa</translation>
+    </message>
+    <message>
+        <source>Leave the full screen</source>
+        <translation>Salir de la pantalla completa</translation>
+    </message>
+    <message>
+        <source>Take a screenshot</source>
+        <translation>Hacer una captura de pantalla</translation>
+    </message>
+    <message>
+        <source>Open recordings</source>
+        <translation>Abrir grabaciones</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Configuración</translation>
+    </message>
+    <message>
+        <source>This list</source>
+        <translation>Esta lista</translation>
+    </message>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Espacio</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation>Intro</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Inicio</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Fin</translation>
+    </message>
+    <message>
+        <source>Page Up</source>
+        <translation>RePág</translation>
+    </message>
+    <message>
+        <source>Page Down</source>
+        <translation>AvPág</translation>
+    </message>
+    <message>
+        <source>Back or forward by a second</source>
+        <translation>Un segundo atrás o adelante</translation>
+    </message>
+    <message>
+        <source>Back or forward by a picture, paused</source>
+        <translation>Un fotograma atrás o adelante, en pausa</translation>
     </message>
 </context>
 </TS>
