@@ -3,11 +3,11 @@
 #include "displaycheck.h"
 
 #ifdef TALVOR_WITH_X11
+#include "xcbconnection.h"
+
 #include <QByteArray>
 #include <QFile>
 #include <QList>
-
-#include <xcb/xcb.h>
 
 #include <sys/socket.h>
 #include <sys/un.h>
@@ -32,11 +32,7 @@ QByteArray optionValue(int argc, const char *const *argv, const char *name)
     return value;
 }
 
-struct Disconnect
-{
-    void operator()(xcb_connection_t *connection) const { xcb_disconnect(connection); }
-};
-using Connection = std::unique_ptr<xcb_connection_t, Disconnect>;
+using Xcb::Connection;
 
 /** Null when the server cannot be reached. */
 Connection x11Connection(const QByteArray &display)

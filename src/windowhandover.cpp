@@ -3,50 +3,28 @@
 #include "windowhandover.h"
 
 #ifdef TALVOR_WITH_X11
+#include "xcbconnection.h"
+
 #include <QDeadlineTimer>
 #include <QGuiApplication>
 #include <QWindow>
 
-#include <xcb/xcb.h>
-
 #include <poll.h>
-
-#include <cstdlib>
-#include <cstring>
-#include <memory>
 
 namespace {
 
 constexpr int KeyboardMs = 300;
 constexpr int WithdrawalMs = 1000;
 
-struct Free
-{
-    void operator()(void *pointer) const { std::free(pointer); }
-};
-template <typename Reply>
-using Owned = std::unique_ptr<Reply, Free>;
-
-struct Disconnect
-{
-    void operator()(xcb_connection_t *connection) const { xcb_disconnect(connection); }
-};
+using Xcb::Owned;
 /** Not Qt's own connection: the events that are waited for would be missing there. */
-using Connection = std::unique_ptr<xcb_connection_t, Disconnect>;
-
-xcb_atom_t stateAtom(xcb_connection_t *connection)
-{
-    const char name[] = "WM_STATE";
-    const Owned<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(
-        connection, xcb_intern_atom(connection, 0, std::strlen(name), name), nullptr));
-    return reply ? reply->atom : xcb_atom_t(XCB_ATOM_NONE);
-}
+using Xcb::Connection;
 
 /** The manager has put the window out of its frame, and says that it no longer keeps it. */
 bool isWithdrawn(xcb_connection_t *connection, xcb_window_t window)
 {
     constexpr quint32 withdrawn = 0;
-    const xcb_atom_t atom = stateAtom(connection);
+    const xcb_atom_t atom = Xcb::atom(connection, "WM_STATE");
     const Owned<xcb_query_tree_reply_t> tree(
         xcb_query_tree_reply(connection, xcb_query_tree(connection, window), nullptr));
     const Owned<xcb_get_property_reply_t> state(xcb_get_property_reply(
