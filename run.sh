@@ -103,7 +103,8 @@ if [ $# -eq 0 ] || [ "$*" = -- ]; then
     set -- "$demo/MOVA0001.MP4" "$demo/MOVB0001.MP4" "$demo/MOVA0002.AVI"
 fi
 if has_display; then
-    exec "$player" "$@"
+    # Not in the window of a player that is installed.
+    exec "$player" --new-window "$@"
 fi
 echo "There is no display: playing on a virtual one for a few seconds ..."
 "$root/tools/with-display.sh" "$root/run.sh" --on-virtual-display "$@"

@@ -15,6 +15,7 @@
 namespace {
 
 const QLatin1String FileScheme("file://");
+const QString NewWindowOption = QStringLiteral("new-window");
 
 void print(std::FILE *stream, const QString &line)
 {
@@ -88,6 +89,8 @@ CommandLine::CommandLine()
         QStringLiteral("Plays dash-camera recordings and shows what the camera measured."));
     mParser.addHelpOption();
     mParser.addVersionOption();
+    mParser.addOption({NewWindowOption,
+                       QStringLiteral("Open a window of its own, even if there is one already.")});
     mParser.addPositionalArgument(QStringLiteral("recordings"),
                                   QStringLiteral("MP4, MOV or AVI files to open"),
                                   QStringLiteral("[recordings...]"));
@@ -134,6 +137,11 @@ bool CommandLine::parse(const QStringList &arguments)
     if (!understood)
         print(stderr, QStringLiteral("talvor-player: %1").arg(mParser.errorText()));
     return understood;
+}
+
+bool CommandLine::wantsNewWindow() const
+{
+    return mParser.isSet(NewWindowOption);
 }
 
 QList<QUrl> CommandLine::recordings() const

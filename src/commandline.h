@@ -27,6 +27,9 @@ public:
     /** Returns false, with the reason on standard error, when an option is unknown. */
     bool parse(const QStringList &arguments);
 
+    /** Whether a window of its own is asked for, even if there is one already. */
+    bool wantsNewWindow() const;
+
     /** The recordings named, in order. Each name that cannot be opened gets a message on standard
      *  error instead. */
     QList<QUrl> recordings() const;

@@ -32,6 +32,21 @@ QByteArray optionValue(int argc, const char *const *argv, const char *name)
     return value;
 }
 
+/** Those that Qt will try, parted by semicolons. */
+QByteArray platformNames(int argc, const char *const *argv)
+{
+    QByteArray platforms = optionValue(argc, argv, "-platform");
+    if (platforms.isEmpty())
+        platforms = qgetenv("QT_QPA_PLATFORM");
+    return platforms.isEmpty() ? "xcb" : platforms;
+}
+
+QByteArray displayName(int argc, const char *const *argv)
+{
+    const QByteArray display = optionValue(argc, argv, "-display");
+    return display.isEmpty() ? qgetenv("DISPLAY") : display;
+}
+
 using Xcb::Connection;
 
 /** Null when the server cannot be reached. */
@@ -82,25 +97,28 @@ bool hasWayland()
 
 QString displayObstacle(int argc, const char *const *argv)
 {
-    QByteArray platforms = optionValue(argc, argv, "-platform");
-    if (platforms.isEmpty())
-        platforms = qgetenv("QT_QPA_PLATFORM");
-    if (platforms.isEmpty())
-        platforms = "xcb";
     QByteArray display = optionValue(argc, argv, "-display");
     const auto canShow = [&display](const QByteArray &platform) {
         if (platform.startsWith("wayland"))
             return hasWayland();
         return !platform.startsWith("xcb") || x11Connection(display);
     };
-    const QList<QByteArray> candidates = platforms.split(';');
+    const QList<QByteArray> candidates = platformNames(argc, argv).split(';');
     if (std::any_of(candidates.begin(), candidates.end(), canShow))
         return {};
-    if (display.isEmpty())
-        display = qgetenv("DISPLAY");
+    display = displayName(argc, argv);
     return display.isEmpty() ? QStringLiteral("there is no display, as DISPLAY is not set")
                              : QStringLiteral("the display \"%1\" does not answer")
                                    .arg(QString::fromLocal8Bit(display));
+}
+
+QByteArray displayIdentity(int argc, const char *const *argv)
+{
+    QByteArray display = displayName(argc, argv);
+    const int screen = display.indexOf('.', display.lastIndexOf(':'));
+    if (screen > 0)
+        display.truncate(screen); // ":0.0" is ":0" as well
+    return platformNames(argc, argv) + '\n' + display + '\n' + qgetenv("WAYLAND_DISPLAY");
 }
 
 bool isResolutionSet(int argc, const char *const *argv)
@@ -112,6 +130,11 @@ bool isResolutionSet(int argc, const char *const *argv)
 #else
 
 QString displayObstacle(int, const char *const *)
+{
+    return {};
+}
+
+QByteArray displayIdentity(int, const char *const *)
 {
     return {};
 }

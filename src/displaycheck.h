@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 
 /**
@@ -12,6 +13,11 @@
  * Anything but X11 and Wayland is taken to need no display.
  */
 QString displayObstacle(int argc, const char *const *argv);
+
+/**
+ * The display that the window will be shown on, as bytes that differ for different ones.
+ */
+QByteArray displayIdentity(int argc, const char *const *argv);
 
 /**
  * Whether the user or the desktop has set how finely the X11 display is to be taken to resolve

@@ -7,7 +7,10 @@
 #include "languagefont.h"
 #include "macnosleeper.h"
 #include "mainwindows.h"
+#include "runningwindow.h"
 #include "terminationwatch.h"
+#include "windowclaim.h"
+#include "windowfront.h"
 
 #include <QApplication>
 #include <QFont>
@@ -59,6 +62,20 @@ bool hasDisplay(int argc, const char *const *argv)
     return obstacle.isEmpty();
 }
 
+/** Whether the window that is open already takes the recordings. */
+bool isForRunningWindow(WindowClaim *claim, const CommandLine &commandLine,
+                        const QList<QUrl> &recordings)
+{
+    if (commandLine.wantsNewWindow()) {
+        claim->take();
+        return false;
+    }
+    const bool isTaken = claim->handOver(recordings);
+    if (isTaken)
+        endStartNotice();
+    return isTaken;
+}
+
 /** One and a half times the size stays that, and is not made twice the size. */
 void scaleAsSet(bool isSet)
 {
@@ -92,6 +109,10 @@ int main(int argc, char *argv[])
     preferX11();
     if (!hasDisplay(argc, argv))
         return EXIT_FAILURE;
+    const QList<QUrl> recordings = commandLine.recordings();
+    WindowClaim claim(displayIdentity(argc, argv));
+    if (isForRunningWindow(&claim, commandLine, recordings))
+        return EXIT_SUCCESS;
     allowMapAsRoot();
     scaleAsSet(isResolutionSet(argc, argv));
 
@@ -114,6 +135,9 @@ int main(int argc, char *argv[])
     QObject::connect(&termination, &TerminationWatch::requested, &window,
                      [&window] { closeProgram(&window); });
     window.show();
-    window.openRecordings(commandLine.recordings());
+    window.openRecordings(recordings);
+    const RunningWindow running(&claim, &window);
+    QObject::connect(&running, &RunningWindow::recordingsReceived, &window,
+                     &MainWindows::openRecordings);
     return QApplication::exec();
 }

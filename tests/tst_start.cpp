@@ -4,6 +4,8 @@
 #include "mediafile.h"
 #include "patience.h"
 
+#include <QDateTime>
+#include <QDir>
 #include <QFile>
 #include <QProcess>
 #include <QRect>
@@ -11,8 +13,10 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <algorithm>
 #include <csignal>
 #include <memory>
+#include <vector>
 
 namespace {
 
@@ -73,11 +77,22 @@ private slots:
     void endsByRequest();
     void opensOnTheScreen_data();
     void opensOnTheScreen();
+    void handsOverToTheOpenWindow();
+    void opensAnotherWindow_data();
+    void opensAnotherWindow();
+    void manyStartsOpenOneWindow();
 
 private:
+    QProcessEnvironment environmentOfHome() const;
     void start(const QProcessEnvironment &additions = {});
+    std::unique_ptr<QProcess> startOther(const QStringList &arguments) const;
+    bool shows(const QByteArray &text)
+    {
+        return (mErrors += mPlayer->readAllStandardError()).contains(text);
+    }
     int end(int request);
     QVariant stored(const char *key) const;
+    void letTheStartBeLongAgo() const;
 
     QTemporaryDir mFolder;
     std::unique_ptr<QTemporaryDir> mHome;
@@ -88,6 +103,7 @@ private:
 void tst_Start::initTestCase()
 {
     QVERIFY(makeMediaFile(mFolder.filePath(QStringLiteral("one.mp4")), 20));
+    QVERIFY(QFile::copy(mFolder.filePath("one.mp4"), mFolder.filePath("two.mp4")));
 }
 
 void tst_Start::init()
@@ -104,18 +120,36 @@ void tst_Start::cleanup()
     QTRY_VERIFY(managedWindows().isEmpty());
 }
 
-/** With a recording, which plays. */
-void tst_Start::start(const QProcessEnvironment &additions)
+QProcessEnvironment tst_Start::environmentOfHome() const
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    for (const char *variable : {"HOME", "XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME"})
+    for (const char *variable :
+         {"HOME", "XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_RUNTIME_DIR"})
         environment.insert(QLatin1String(variable), mHome->path());
     environment.remove(QStringLiteral("LC_ALL"));
     environment.insert(QStringLiteral("LANG"), QStringLiteral("de_DE.UTF-8"));
+    return environment;
+}
+
+/** With a recording, which plays. */
+void tst_Start::start(const QProcessEnvironment &additions)
+{
+    QProcessEnvironment environment = environmentOfHome();
     environment.insert(additions);
+    mErrors.clear();
     mPlayer->setProcessEnvironment(environment);
     mPlayer->start(QStringLiteral(TALVOR_PLAYER), {mFolder.filePath(QStringLiteral("one.mp4"))});
     QTRY_VERIFY((mErrors += mPlayer->readAllStandardError()).contains("onPositionChanged"));
+}
+
+/** In the folder of the recordings. */
+std::unique_ptr<QProcess> tst_Start::startOther(const QStringList &arguments) const
+{
+    auto other = std::make_unique<QProcess>();
+    other->setProcessEnvironment(environmentOfHome());
+    other->setWorkingDirectory(mFolder.path());
+    other->start(QStringLiteral(TALVOR_PLAYER), arguments);
+    return other;
 }
 
 /** Returns what the program ends with; -1 when it does not end by itself. */
@@ -196,6 +230,76 @@ void tst_Start::opensOnTheScreen()
     const QSize size = QSize(921, 628).boundedTo(QSize(1600, 1000) / scale) * scale;
     QVERIFY2(qAbs(place.width() - size.width()) <= 2 && qAbs(place.height() - size.height()) <= 2,
              textOf(place).constData());
+    QCOMPARE(end(SIGTERM), 0);
+}
+
+void tst_Start::handsOverToTheOpenWindow()
+{
+    start();
+    const int windows = managedWindows().size();
+    const auto other = startOther({"two.mp4", "gone.mp4"});
+    QVERIFY(other->waitForFinished(PatienceMs));
+    QCOMPARE(other->exitStatus(), QProcess::NormalExit);
+    QCOMPARE(other->exitCode(), 0);
+    QVERIFY(other->readAllStandardError().contains("\"gone.mp4\""));
+    QTRY_VERIFY(shows("\"two.mp4\""));
+    QCOMPARE(managedWindows().size(), windows);
+    QCOMPARE(end(SIGTERM), 0);
+}
+
+void tst_Start::opensAnotherWindow_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<bool>("hangs"); // the program that is open
+    QTest::newRow("as asked for") << QStringList{"--new-window"} << false;
+    QTest::newRow("the open one hangs") << QStringList{"two.mp4"} << true;
+}
+
+void tst_Start::opensAnotherWindow()
+{
+    QFETCH(const QStringList, arguments);
+    QFETCH(const bool, hangs);
+    start();
+    const int windows = managedWindows().size();
+    if (hangs) {
+        letTheStartBeLongAgo();
+        ::kill(pid_t(mPlayer->processId()), SIGSTOP);
+    }
+    const auto other = startOther(arguments);
+    QTRY_COMPARE(managedWindows().size(), 2 * windows);
+    QCOMPARE(other->state(), QProcess::Running);
+    ::kill(pid_t(mPlayer->processId()), SIGCONT);
+    other->terminate();
+    QVERIFY(other->waitForFinished(PatienceMs));
+    QCOMPARE(end(SIGTERM), 0);
+    QVERIFY(!mErrors.contains("\"two.mp4\""));
+}
+
+/** Otherwise it would be given the time that a start takes. */
+void tst_Start::letTheStartBeLongAgo() const
+{
+    const QDir folder(mHome->path());
+    QFile lock(folder.filePath(folder.entryList({"talvor-player-*.lock"}).value(0)));
+    QVERIFY(lock.open(QFile::ReadWrite));
+    QVERIFY(lock.setFileTime(QDateTime::currentDateTime().addDays(-1),
+                             QFileDevice::FileModificationTime));
+}
+
+/** As when a file manager opens each of some files by itself. */
+void tst_Start::manyStartsOpenOneWindow()
+{
+    std::vector<std::unique_ptr<QProcess>> starts;
+    for (int i = 0; i < 5; ++i)
+        starts.push_back(startOther({i % 2 == 0 ? "one.mp4" : "two.mp4"}));
+    const auto isRunning = [](const std::unique_ptr<QProcess> &process) {
+        return process->state() != QProcess::NotRunning;
+    };
+    QTRY_COMPARE(int(std::count_if(starts.begin(), starts.end(), isRunning)), 1);
+    mPlayer = std::move(*std::find_if(starts.begin(), starts.end(), isRunning));
+    for (const auto &other : starts)
+        QVERIFY(!other || (other->exitStatus() == QProcess::NormalExit && other->exitCode() == 0));
+    QTRY_VERIFY(shows("onPositionChanged"));
+    QTRY_VERIFY(shows("\"one.mp4\"") && shows("\"two.mp4\""));
     QCOMPARE(end(SIGTERM), 0);
 }
 
