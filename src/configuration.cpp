@@ -21,6 +21,11 @@ const QString SpeedUnitKey = QStringLiteral("speedUnit");
 const QString VideoFilePathKey = QStringLiteral("videoFilePath");
 const QString MainwindowsRectKey = QStringLiteral("mainwindowsRect");
 const QString MainwindowsIsMaximizeKey = QStringLiteral("mainwindowsIsMaximize");
+const QString VolumeKey = QStringLiteral("volume");
+const QString MutedKey = QStringLiteral("muted");
+const QString PlaybackRateKey = QStringLiteral("playbackRate");
+
+constexpr int FullVolume = 100;
 
 // By language; English is what the texts are written in.
 const char *const TranslationNames[] = {
@@ -180,6 +185,38 @@ bool Configuration::getMainwindowsIsMaximize()
 void Configuration::setMainwindowsIsMaximize(bool maximized)
 {
     store(MainwindowsIsMaximizeKey, maximized);
+}
+
+int Configuration::volume()
+{
+    const int stored = mSettings->value(VolumeKey, FullVolume).toInt();
+    return stored > 0 && stored <= FullVolume ? stored : FullVolume;
+}
+
+void Configuration::setVolume(int volume)
+{
+    store(VolumeKey, volume);
+}
+
+bool Configuration::isMuted()
+{
+    // By itself any text but a few would be taken for true.
+    return mSettings->value(MutedKey).toString() == QLatin1String("true");
+}
+
+void Configuration::setMuted(bool muted)
+{
+    store(MutedKey, muted);
+}
+
+double Configuration::playbackRate()
+{
+    return mSettings->value(PlaybackRateKey, 1.0).toDouble();
+}
+
+void Configuration::setPlaybackRate(double rate)
+{
+    store(PlaybackRateKey, rate);
 }
 
 QString Configuration::directory()

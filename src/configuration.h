@@ -41,8 +41,9 @@ enum Language_e : int
  * first application-local data directory of the platform.
  *
  * Nothing is cached: every getter reads the settings object, every setter writes through to the
- * file before it returns, so that even a hard exit loses nothing. Values are not range-checked;
- * a missing or unreadable file gives the documented defaults. The file is UTF-8.
+ * file before it returns, so that even a hard exit loses nothing. Values are not range-checked
+ * unless told otherwise; a missing or unreadable file gives the documented defaults. The file is
+ * UTF-8.
  *
  * Lives on the GUI thread and must first be used there, after the application and organisation
  * names are set (they decide the file's directory). Never released in normal operation.
@@ -92,6 +93,19 @@ public:
     /** Whether the main window was last maximised, by default false. */
     bool getMainwindowsIsMaximize();
     void setMainwindowsIsMaximize(bool maximized);
+
+    /** The volume, 1 to 100 on the players' linear scale; 100 if nothing or anything else is
+     *  stored, as nobody looks for the volume when a new window makes no sound. */
+    int volume();
+    void setVolume(int volume);
+
+    /** Whether the sound is off, by default and for anything unreadable false. */
+    bool isMuted();
+    void setMuted(bool muted);
+
+    /** The rate of playback, by default 1 for normal speed. */
+    double playbackRate();
+    void setPlaybackRate(double rate);
 
     /** The folder of the settings file, which may not exist yet. */
     static QString directory();

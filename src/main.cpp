@@ -7,6 +7,7 @@
 #include "languagefont.h"
 #include "macnosleeper.h"
 #include "mainwindows.h"
+#include "playbackmemory.h"
 #include "runningwindow.h"
 #include "terminationwatch.h"
 #include "windowclaim.h"
@@ -131,6 +132,7 @@ int main(int argc, char *argv[])
     Configuration::GetInstance()->setLanguage(Configuration::GetInstance()->language());
 
     MainWindows window;
+    const PlaybackMemory playbackMemory(&window);
     const TerminationWatch termination;
     QObject::connect(&termination, &TerminationWatch::requested, &window,
                      [&window] { closeProgram(&window); });

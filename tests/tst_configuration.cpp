@@ -21,7 +21,10 @@ QVariantList settings()
             int(configuration->maps()),
             configuration->speedUnit(),
             configuration->getMainwindowsRect(),
-            configuration->getMainwindowsIsMaximize()};
+            configuration->getMainwindowsIsMaximize(),
+            configuration->volume(),
+            configuration->isMuted(),
+            configuration->playbackRate()};
 }
 
 } // namespace
@@ -80,13 +83,19 @@ void TestConfiguration::defaultValues()
 {
     const QVariantList folders{mHome->filePath("Pictures/") + ApplicationName,
                                mHome->filePath("Videos")};
-    const QVariantList defaults = folders + QVariantList{0, 2, 0, QRect(483, 166, 921, 628), false};
+    const QVariantList defaults =
+        folders + QVariantList{0, 2, 0, QRect(483, 166, 921, 628), false, 100, false, 1.0};
     QCOMPARE(settings(), defaults);
     QVERIFY(!QFileInfo::exists(mPath));
     writeFile("\x7f\xff\xfe\r\x80[\nno settings\n[Other]\nmaps=1");
     QCOMPARE(settings(), defaults);
-    writeFile("[General]\nmaps=a\nspeedUnit=b\nlanguage=c\nmainwindowsRect=d\n");
-    QCOMPARE(settings().mid(2), QVariantList({0, 0, 0, QRect(), false}));
+    writeFile("[General]\nmaps=a\nspeedUnit=b\nlanguage=c\nmainwindowsRect=d\n"
+              "volume=e\nmuted=f\nplaybackRate=1\n");
+    QCOMPARE(settings().mid(2), QVariantList({0, 0, 0, QRect(), false, 100, false, 1.0}));
+    for (const char *volume : {"0", "-5", "101", "99999999999"}) {
+        writeFile(QByteArray("[General]\nvolume=") + volume + "\n");
+        QCOMPARE(Configuration::GetInstance()->volume(), 100);
+    }
 }
 
 void TestConfiguration::settingsReachTheFile()
@@ -106,10 +115,16 @@ void TestConfiguration::settingsReachTheFile()
     QVERIFY(fileHolds("mainwindowsRect=@Rect(-1400 -20 1280 720)"));
     configuration->setMainwindowsIsMaximize(true);
     QVERIFY(fileHolds("mainwindowsIsMaximize=true"));
-    QVERIFY(fileText().startsWith("[General]\n") && fileText().count('\n') == 8);
+    configuration->setVolume(37);
+    QVERIFY(fileHolds("volume=37"));
+    configuration->setMuted(true);
+    QVERIFY(fileHolds("muted=true"));
+    configuration->setPlaybackRate(0.5);
+    QVERIFY(fileHolds("playbackRate=0.5"));
+    QVERIFY(fileText().startsWith("[General]\n") && fileText().count('\n') == 11);
 
-    const QVariantList expected{"/two words", "/rides", 20, 7, -4, QRect(-1400, -20, 1280, 720),
-                                true};
+    const QVariantList expected{"/two words", "/rides", 20,   7,  -4, QRect(-1400, -20, 1280, 720),
+                                true,         37,       true, 0.5};
     QCOMPARE(settings(), expected);
     Configuration::ReleaseInstance();
     QCOMPARE(settings(), expected);

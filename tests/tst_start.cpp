@@ -81,6 +81,7 @@ private slots:
     void opensAnotherWindow_data();
     void opensAnotherWindow();
     void manyStartsOpenOneWindow();
+    void soundsAsBefore();
 
 private:
     QProcessEnvironment environmentOfHome() const;
@@ -300,6 +301,23 @@ void tst_Start::manyStartsOpenOneWindow()
         QVERIFY(!other || (other->exitStatus() == QProcess::NormalExit && other->exitCode() == 0));
     QTRY_VERIFY(shows("onPositionChanged"));
     QTRY_VERIFY(shows("\"one.mp4\"") && shows("\"two.mp4\""));
+    QCOMPARE(end(SIGTERM), 0);
+}
+
+void tst_Start::soundsAsBefore()
+{
+    start();
+    QVERIFY(!stored("volume").isValid());
+    outputOf("xdotool", QStringLiteral("mousemove 1026 608 click 1")); // in the volume's slider
+    QTRY_VERIFY(stored("volume").isValid());
+    QCOMPARE(end(SIGTERM), 0);
+    const int volume = stored("volume").toInt();
+    QVERIFY2(volume > 5 && volume < 50, qPrintable(QString::number(volume)));
+
+    start();
+    outputOf("xdotool", QStringLiteral("mousemove 958 608 click 1")); // mutes
+    QTRY_VERIFY(stored("muted").toBool());
+    QCOMPARE(stored("volume").toInt(), volume);
     QCOMPARE(end(SIGTERM), 0);
 }
 
