@@ -116,6 +116,8 @@ int main(int argc, char *argv[])
         return EXIT_SUCCESS;
     allowMapAsRoot();
     scaleAsSet(isResolutionSet(argc, argv));
+    // Wayland's desktops know the windows by it; without it they would show no icon of ours.
+    QGuiApplication::setDesktopFileName(QStringLiteral("talvor-player"));
 
     QApplication application(argc, argv);
     QApplication::setWindowIcon(QIcon(QStringLiteral(":image/logo.png")));

@@ -2,7 +2,8 @@
 # SPDX-FileCopyrightText: 2026 Quellfern
 # SPDX-License-Identifier: GPL-3.0-or-later
 #
-# Renders the button images, the faces of the gauges and the logo from image/svg into image/:
+# Renders the button images, the faces of the gauges, the logo and the program's icons from image/svg
+# into image/:
 #   tools/render-images.sh
 # Needs rsvg-convert (Debian package librsvg2-bin) and the Liberation fonts (fonts-liberation). Run
 # it after a change to a drawing or to a table, and keep the PNG files with the sources: the build
@@ -46,6 +47,7 @@ direction     0  360  24  6  68  N E S W
 dial_font="Liberation Sans Narrow"
 dial_size=512
 logo_size=72 # twice the size in the title bar
+icon_sizes="16 22 24 32 48 64 128 256 512" # of the desktop's menus, docks and windows
 scale=2 # image pixels to one shown pixel, for dense screens
 
 images="$(dirname "$0")/../image"
@@ -154,3 +156,8 @@ echo "$dials" | while read -r drawing first sweep steps label_steps label_size l
         render_dial "$drawing" "$first" "$sweep" "$steps" "$label_steps" "$label_size" "$labels"
 done
 render logo.png $logo_size <"$images/svg/logo.svg"
+mkdir -p "$images/icons"
+for size in $icon_sizes; do
+    rsvg-convert --width "$size" --height "$size" --output "$images/icons/$size.png" \
+        "$images/svg/logo.svg" || fail "cannot render the icon of $size pixels"
+done
