@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "recordingcondition.h"
 #include "videoparser.h"
 
 #include <QDateTime>
@@ -24,5 +25,6 @@ struct RowData
     int height = -1;        ///< pixels; -1 until the worker has told
     VideoParser parser;
     QUrl url;
-    int decodeType = 0; ///< as VideoInfo
+    int decodeType = 0;           ///< as VideoInfo
+    RecordingCondition condition; ///< unknown until the worker has told
 };
