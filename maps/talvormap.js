@@ -133,7 +133,7 @@ window.talvorMap = (() => {
             keyHint: 'キーは次のファイルに入力します：',
             filesMissing: 'プログラムのファイルが不足しているため、地図を表示できません。',
             tilesMissing: '現在、地図の画像を読み込めません。',
-            noTelemetry: 'この録画にはテレメトリーデータがありません',
+            noTelemetry: 'この録画にテレメトリーはありません',
             zoomIn: '拡大',
             zoomOut: '縮小',
         },

@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "gyrochartview.h"
 
+#include "configuration.h"
+#include "languagefont.h"
+
 #include <QtCharts/QChart>
 #include <QtCharts/QLegend>
 
@@ -115,10 +118,8 @@ void GyroChartView::clearAll()
 void GyroChartView::changeEvent(QEvent *event)
 {
     QChartView::changeEvent(event);
-    if (event->type() != QEvent::LanguageChange)
-        return;
-    mNote->setText(tr("No telemetry in this recording"));
-    placeNote();
+    if (event->type() == QEvent::LanguageChange)
+        translateNote();
 }
 
 void GyroChartView::resizeEvent(QResizeEvent *event)
@@ -187,25 +188,34 @@ void GyroChartView::setupLook()
 
 void GyroChartView::setupNote()
 {
-    mNote = new QLabel(tr("No telemetry in this recording"), this);
+    mNote = new QLabel(this);
     mNote->setObjectName(QStringLiteral("lbl_NoTelemetry"));
     mNote->setAlignment(Qt::AlignCenter);
     mNote->setWordWrap(true);
     mNote->setAttribute(Qt::WA_TransparentForMouseEvents);
     // On the ground of the chart, so that no line of its grid crosses the letters.
-    mNote->setStyleSheet(QStringLiteral("font-family: Calibri; font-size: 12px; padding: 2px 6px;"
-                                        "color: rgb(210, 210, 210); background: rgb(44, 44, 52);"));
+    mNote->setStyleSheet(QStringLiteral(
+        "padding: 2px 6px; color: rgb(210, 210, 210); background: rgb(44, 44, 52);"));
+    translateNote();
     mNote->hide();
 }
 
-/** In the middle of the view, in as many lines as its width asks for. */
+void GyroChartView::translateNote()
+{
+    mNote->setText(tr("No telemetry in this recording"));
+    mNote->setFont(
+        languageFont(pixelFont(LabelFontPixels), Configuration::GetInstance()->language()));
+    placeNote();
+}
+
+/** In the middle of the lines, in as many lines as its width asks for. */
 void GyroChartView::placeNote()
 {
     const int mostWidth = width() - 2 * NoteMargin;
     const int wantedWidth = mNote->fontMetrics().horizontalAdvance(mNote->text()) + NotePadding;
     const int noteWidth = std::min(wantedWidth, mostWidth);
     QRect place(0, 0, noteWidth, mNote->heightForWidth(noteWidth));
-    place.moveCenter(rect().center());
+    place.moveCenter(mapFromScene(chart()->mapToScene(chart()->plotArea().center())));
     mNote->setGeometry(place);
 }
 

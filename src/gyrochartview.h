@@ -49,6 +49,7 @@ private:
     void setupAxes();
     void setupLook();
     void setupNote();
+    void translateNote();
     void placeNote();
     void growYRange(const GyroData &sample);
     void showYRange();

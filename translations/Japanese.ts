@@ -103,7 +103,7 @@
     <name>GyroChartView</name>
     <message>
         <source>No telemetry in this recording</source>
-        <translation>この録画にはテレメトリーデータがありません</translation>
+        <translation>この録画にテレメトリーはありません</translation>
     </message>
 </context>
 <context>
