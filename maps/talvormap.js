@@ -3,8 +3,8 @@
 'use strict';
 
 /**
- * What all map pages share. The program knows four global functions, defined at the end; each page
- * adds one provider, the object that a provider's script hands to talvorMap.use():
+ * What all map pages share. The program knows four global functions, and two that a page may lack
+ * (mapLoseFix, mapMissTelemetry), all defined at the end; each page adds one provider, the object that a provider's script hands to talvorMap.use():
  *
  * - scriptUrl(key, language): the provider's own script, which calls talvorMap.providerReady();
  *   absent if the page has loaded it
@@ -55,6 +55,7 @@ window.talvorMap = (() => {
         start: { image: 'start.svg', size: 16 },
         end: { image: 'end.svg', size: 16 },
         position: { image: 'position.svg', size: 22 },
+        lost: { image: 'lost.svg', size: 22 }, // instead of it while there is no fix
     };
 
     const TEXTS = {
@@ -68,6 +69,7 @@ window.talvorMap = (() => {
             keyHint: 'The key belongs in this file:',
             filesMissing: 'The map cannot be shown because files of the program are missing.',
             tilesMissing: 'The map images cannot be loaded at the moment.',
+            noTelemetry: 'No telemetry in this recording',
             zoomIn: 'Zoom in',
             zoomOut: 'Zoom out',
         },
@@ -80,6 +82,7 @@ window.talvorMap = (() => {
             keyHint: '密钥请填写在此文件中：',
             filesMissing: '程序文件不完整，无法显示地图。',
             tilesMissing: '暂时无法加载地图图片。',
+            noTelemetry: '此录像不含遥测数据',
             zoomIn: '放大',
             zoomOut: '缩小',
         },
@@ -92,6 +95,7 @@ window.talvorMap = (() => {
             keyHint: '金鑰請填寫在此檔案中：',
             filesMissing: '程式檔案不完整，無法顯示地圖。',
             tilesMissing: '暫時無法載入地圖圖片。',
+            noTelemetry: '此錄影不含遙測資料',
             zoomIn: '放大',
             zoomOut: '縮小',
         },
@@ -104,6 +108,7 @@ window.talvorMap = (() => {
             filesMissing: 'Impossible d’afficher la carte\u00a0: des fichiers du programme sont '
                 + 'manquants.',
             tilesMissing: 'Les images de la carte sont indisponibles.',
+            noTelemetry: 'Aucune donnée de télémétrie dans cet enregistrement',
             zoomIn: 'Zoom avant',
             zoomOut: 'Zoom arrière',
         },
@@ -115,6 +120,7 @@ window.talvorMap = (() => {
             keyHint: 'La chiave va inserita in questo file:',
             filesMissing: 'Impossibile mostrare la mappa: mancano alcuni file del programma.',
             tilesMissing: 'Le immagini della mappa non sono disponibili.',
+            noTelemetry: 'Nessun dato di telemetria in questa registrazione',
             zoomIn: 'Ingrandisci',
             zoomOut: 'Riduci',
         },
@@ -127,6 +133,7 @@ window.talvorMap = (() => {
             keyHint: 'キーは次のファイルに入力します：',
             filesMissing: 'プログラムのファイルが不足しているため、地図を表示できません。',
             tilesMissing: '現在、地図の画像を読み込めません。',
+            noTelemetry: 'この録画にテレメトリーはありません',
             zoomIn: '拡大',
             zoomOut: '縮小',
         },
@@ -140,6 +147,7 @@ window.talvorMap = (() => {
             keyHint: 'Klucz należy wpisać do tego pliku:',
             filesMissing: 'Nie można wyświetlić mapy: brakuje plików programu.',
             tilesMissing: 'W tej chwili nie można wczytać obrazów mapy.',
+            noTelemetry: 'To nagranie nie zawiera danych telemetrycznych',
             zoomIn: 'Powiększ',
             zoomOut: 'Pomniejsz',
         },
@@ -153,6 +161,7 @@ window.talvorMap = (() => {
             keyHint: 'Ключ указывается в этом файле:',
             filesMissing: 'Не удалось показать карту: не хватает файлов программы.',
             tilesMissing: 'Сейчас не удаётся загрузить изображения карты.',
+            noTelemetry: 'В этой записи нет телеметрии',
             zoomIn: 'Приблизить',
             zoomOut: 'Отдалить',
         },
@@ -165,6 +174,7 @@ window.talvorMap = (() => {
             filesMissing: 'Die Karte kann nicht angezeigt werden, weil Dateien des Programms '
                 + 'fehlen.',
             tilesMissing: 'Die Kartenbilder lassen sich zurzeit nicht laden.',
+            noTelemetry: 'Keine Telemetriedaten in dieser Aufnahme',
             zoomIn: 'Vergrößern',
             zoomOut: 'Verkleinern',
         },
@@ -176,6 +186,7 @@ window.talvorMap = (() => {
             keyHint: 'La clave se introduce en este archivo:',
             filesMissing: 'No se puede mostrar el mapa: faltan archivos del programa.',
             tilesMissing: 'Las imágenes del mapa no están disponibles.',
+            noTelemetry: 'Esta grabación no contiene datos de telemetría',
             zoomIn: 'Acercar',
             zoomOut: 'Alejar',
         },
@@ -187,6 +198,7 @@ window.talvorMap = (() => {
             keyHint: 'A chave deve ser introduzida neste ficheiro:',
             filesMissing: 'Não é possível mostrar o mapa: faltam ficheiros do programa.',
             tilesMissing: 'As imagens do mapa não estão disponíveis.',
+            noTelemetry: 'Esta gravação não contém dados de telemetria',
             zoomIn: 'Ampliar',
             zoomOut: 'Reduzir',
         },
@@ -199,6 +211,7 @@ window.talvorMap = (() => {
             keyHint: '키는 다음 파일에 입력합니다:',
             filesMissing: '프로그램 파일이 없어 지도를 표시할 수 없습니다.',
             tilesMissing: '지금은 지도 이미지를 불러올 수 없습니다.',
+            noTelemetry: '이 녹화에는 텔레메트리 데이터가 없습니다',
             zoomIn: '확대',
             zoomOut: '축소',
         },
@@ -310,7 +323,9 @@ window.talvorMap = (() => {
     const messageElement = document.getElementById('message');
     const noteElement = document.createElement('p');
     noteElement.id = 'note';
-    mapElement.after(noteElement);
+    const emptyElement = document.createElement('p');
+    emptyElement.id = 'empty';
+    mapElement.after(noteElement, emptyElement);
 
     let adapter = null;  // the page's provider
     let provider = null; // the same once it is ready
@@ -322,6 +337,7 @@ window.talvorMap = (() => {
     let route = [];    // a complete route
     let live = [];     // {id, point} of the samples played, ids ascending
     let position = null;
+    let isLost = false; // it is the last one known, and the car may be elsewhere
     let decisive = [];  // what of the route the view has to show
     let homeLng = null; // all is drawn on the turn of the world around it
 
@@ -337,7 +353,8 @@ window.talvorMap = (() => {
     let pressedAt = null;
 
     const shown = {
-        routeSegments: [], drivenSegments: [], position: null, frames: 0, fits: 0, fitBounds: null,
+        routeSegments: [], drivenSegments: [], position: null, isLost: false, frames: 0, fits: 0,
+        fitBounds: null,
     };
 
     /** The difference between longitudes the short way round. */
@@ -476,7 +493,9 @@ window.talvorMap = (() => {
         shown.drivenSegments = segmentsOf(drivenPoints());
         shown.position = position && nearHome(position);
         provider.drawLine('driven', shown.drivenSegments);
-        provider.drawMark('position', shown.position);
+        shown.isLost = isLost && position !== null;
+        provider.drawMark('position', isLost ? null : shown.position);
+        provider.drawMark('lost', isLost ? shown.position : null);
     }
 
     function placeView() {
@@ -536,22 +555,53 @@ window.talvorMap = (() => {
         refresh();
     }
 
-    function mapAddPoint(lng, lat, id) {
+    function addSample(point, id) {
         // After a jump back, only what lies before is driven.
         while (live.length > 0 && live[live.length - 1].id >= id)
             live.pop();
         const last = live[live.length - 1];
         if (last && id - last.id > LARGEST_STEP)
             live.push({ id: last.id, point: null });
-        const point = fixAt(lng, lat);
         live.push({ id, point });
-        if (point) {
-            position = point;
-            wantsFollow = true;
-            if (homeLng === null)
-                homeLng = point.lng;
-        }
         refresh('driven');
+    }
+
+    function moveTo(point) {
+        position = point;
+        wantsFollow = true;
+        if (homeLng === null)
+            homeLng = point.lng;
+    }
+
+    function mapAddPoint(lng, lat, id) {
+        const point = fixAt(lng, lat);
+        addSample(point, id);
+        isLost = !point;
+        if (point)
+            moveTo(point);
+    }
+
+    /**
+     * The sample has no fix. The last one before it was at this place, or there was none: null. In
+     * the run of the drive the position stays where it was shown.
+     */
+    function mapLoseFix(lng, lat, id) {
+        const last = live[live.length - 1];
+        const isJump = !last || id < last.id || id - last.id > LARGEST_STEP;
+        const point = lng === null ? null : fixAt(lng, lat);
+        addSample(null, id);
+        isLost = true;
+        if (isJump && point) {
+            moveTo(point);
+        } else if (isJump) {
+            position = null;
+            wantsFollow = false;
+        }
+    }
+
+    /** What a recording without telemetry has instead of a drive; it needs no provider. */
+    function mapMissTelemetry(isMissing) {
+        emptyElement.textContent = isMissing ? texts.noTelemetry : '';
     }
 
     function loadAllGpsDataOfVideo(lng, lat, index, count) {
@@ -583,6 +633,7 @@ window.talvorMap = (() => {
         incoming = [];
         live = [];
         position = null;
+        isLost = false;
         isPlaced = false;
         wantsFollow = false;
         if (provider)
@@ -671,6 +722,7 @@ window.talvorMap = (() => {
         return {
             message: messageElement.hidden ? '' : messageElement.textContent,
             note: noteElement.textContent,
+            empty: emptyElement.textContent,
             held: held.length,
             frames: shown.frames,
             fits: shown.fits,
@@ -682,6 +734,7 @@ window.talvorMap = (() => {
             drivenSegments: drivenSegments.length,
             drivenBounds: boundsOf(drivenSegments),
             position: shown.position && [shown.position.lng, shown.position.lat],
+            isLost: shown.isLost,
             view: provider && provider.bounds(),
         };
     }
@@ -723,6 +776,8 @@ window.talvorMap = (() => {
     window.mapAddPoint = whenReady(mapAddPoint);
     window.loadAllGpsDataOfVideo = whenReady(loadAllGpsDataOfVideo);
     window.mapClearAll = mapClearAll;
+    window.mapLoseFix = whenReady(mapLoseFix);
+    window.mapMissTelemetry = mapMissTelemetry;
     window.addEventListener('resize', onResize);
     const gestures = {
         pointerdown: onPress,

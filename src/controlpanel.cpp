@@ -127,6 +127,22 @@ void ControlPanel::setLongitudeAndLatitude(const QString &first, const QString &
     mUi->lbl_LongitudeAndLatitude->setText(QStringLiteral("%1,%2").arg(first, second));
 }
 
+void ControlPanel::setHasFix(bool hasFix)
+{
+    mHasFix = hasFix;
+    showFix(mUi->pBtn_SP, tr("Speed"));
+    showFix(mUi->lbl_LongitudeAndLatitude, tr("Coordinates"));
+}
+
+/** The form's style draws a label that is not enabled in grey. */
+void ControlPanel::showFix(QLabel *readOut, const QString &name) const
+{
+    const QString description = mHasFix ? name : tr("%1 (no position fix)").arg(name);
+    readOut->setEnabled(mHasFix);
+    readOut->setAccessibleDescription(description);
+    readOut->setToolTip(mHasFix ? QString() : description);
+}
+
 void ControlPanel::reinit()
 {
     setLongitudeAndLatitude(QStringLiteral("00.000000"), QStringLiteral("000.000000"));
@@ -251,6 +267,7 @@ void ControlPanel::onUpdateLanguage()
     mUi->lbl_LongitudeAndLatitude->setText(coordinates);
     mUi->lbl_PlayTime->setText(playTime);
     setGpsSpeed(mSpeedKmh);
+    setHasFix(mHasFix);
 }
 
 void ControlPanel::onSliderStatusProcess()

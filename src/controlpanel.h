@@ -9,6 +9,7 @@
 #include <memory>
 
 class QDateTime;
+class QLabel;
 
 namespace Ui {
 class ControlPanel;
@@ -48,6 +49,9 @@ public:
     void setGpsDataTime(const QDateTime &dateTime);
     /** Shows both texts as given, in this order. */
     void setLongitudeAndLatitude(const QString &first, const QString &second);
+    /** Whether speed and coordinates were measured, as they are at first; without a fix they are
+     *  shown in grey. */
+    void setHasFix(bool hasFix);
     /** Shows what stands there without a recording: position 0, no coordinates, speed 0, now. */
     void reinit();
     /** Shows what stands there before anything is known of a recording: position and duration 0,
@@ -95,6 +99,7 @@ protected:
 
 private:
     void enableSeeking(bool enabled);
+    void showFix(QLabel *readOut, const QString &name) const;
     void fillRates();
     void setupSliders();
     void connectButtons();
@@ -106,4 +111,5 @@ private:
     int mDuration = 0; // seconds
     bool mIsKmh = true;
     int mSpeedKmh = 0;
+    bool mHasFix = true;
 };

@@ -15,6 +15,10 @@ constexpr double NeedleWidth = 0.06;
 constexpr qreal HubRadius = 4; // in pixels, at every size
 const QColor HubColor(120, 120, 120);
 
+// The half that points back, while there is no fix: the other one is light then.
+const QColor GreyBackLight(112, 112, 118);
+const QColor GreyBackShadow(98, 98, 104);
+
 } // namespace
 
 DirectionTray::DirectionTray(QWidget *parent)
@@ -24,9 +28,15 @@ DirectionTray::DirectionTray(QWidget *parent)
 void DirectionTray::setDirection(int headingDeg)
 {
     direction = headingDeg;
-    // The picture says nothing to a screen reader.
-    setAccessibleDescription(QStringLiteral("%1\u00b0").arg(direction));
-    update();
+    showDirection();
+}
+
+void DirectionTray::setHasFix(bool hasFix)
+{
+    if (hasFix == mHasFix)
+        return;
+    mHasFix = hasFix;
+    showDirection();
 }
 
 void DirectionTray::paintEvent(QPaintEvent *)
@@ -34,7 +44,18 @@ void DirectionTray::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     drawGaugeFace(painter, gaugeSquare(size()), pixmap);
+    if (!mHasFix)
+        fadeGaugeFace(painter, gaugeSquare(size()));
     drawNeedle(painter);
+}
+
+void DirectionTray::showDirection()
+{
+    const QString heading = QStringLiteral("%1\u00b0").arg(direction);
+    // The picture says nothing to a screen reader.
+    setAccessibleDescription(mHasFix ? heading : withoutFixText(heading));
+    setToolTip(mHasFix ? QString() : accessibleDescription());
+    update();
 }
 
 void DirectionTray::drawNeedle(QPainter &painter) const
@@ -50,10 +71,10 @@ void DirectionTray::drawNeedle(QPainter &painter) const
         QPointF tip;
         QColor color;
     } quarters[] = {
-        {{-base, 0}, front, Qt::darkRed},
-        {{base, 0}, front, QColor(78, 18, 18)},
-        {{-base, 0}, back, QColor(240, 240, 240)},
-        {{base, 0}, back, QColor(190, 190, 190)},
+        {{-base, 0}, front, mHasFix ? QColor(Qt::darkRed) : GreyNeedleLight},
+        {{base, 0}, front, mHasFix ? QColor(78, 18, 18) : GreyNeedleShadow},
+        {{-base, 0}, back, mHasFix ? QColor(240, 240, 240) : GreyBackLight},
+        {{base, 0}, back, mHasFix ? QColor(190, 190, 190) : GreyBackShadow},
     };
 
     turnGaugeNeedle(painter, size(), direction);

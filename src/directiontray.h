@@ -21,6 +21,8 @@ public:
 
     /** Shows a heading in degrees clockwise from north; any number of full turns may be in it. */
     void setDirection(int headingDeg);
+    /** Whether the heading was measured, as it is at first; without a fix it is shown in grey. */
+    void setHasFix(bool hasFix);
     /** The heading as it was set. */
     int headingDeg() const { return direction; }
 
@@ -28,8 +30,10 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    void showDirection();
     void drawNeedle(QPainter &painter) const;
 
     QPixmap pixmap;
     int direction = 0;
+    bool mHasFix = true;
 };

@@ -2,9 +2,21 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "gaugeface.h"
 
+#include <QCoreApplication>
 #include <QPainter>
 
 #include <algorithm>
+
+namespace {
+const QColor WindowGround(44, 44, 52);
+constexpr double FadedPart = 0.6;
+} // namespace
+
+QString withoutFixText(const QString &value)
+{
+    // In the words of the control bar, which shows the same.
+    return QCoreApplication::translate("ControlPanel", "%1 (no position fix)").arg(value);
+}
 
 QRect gaugeSquare(const QSize &size)
 {
@@ -19,6 +31,15 @@ void drawGaugeFace(QPainter &painter, const QRect &square, const QPixmap &face)
     const QSize screenSize = square.size() * painter.device()->devicePixelRatioF();
     const QPixmap fitted = face.scaled(screenSize, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     painter.drawPixmap(QRectF(square), fitted, QRectF(fitted.rect()));
+}
+
+void fadeGaugeFace(QPainter &painter, const QRect &square)
+{
+    QColor veil = WindowGround;
+    veil.setAlphaF(FadedPart);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(veil);
+    painter.drawEllipse(QRectF(square));
 }
 
 void turnGaugeNeedle(QPainter &painter, const QSize &size, int angleDeg)

@@ -2,10 +2,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "gyrochartview.h"
 
+#include "configuration.h"
+#include "languagefont.h"
+
 #include <QtCharts/QChart>
 #include <QtCharts/QLegend>
 
+#include <QEvent>
 #include <QGraphicsLayout>
+#include <QLabel>
 #include <QSignalBlocker>
 
 #include <algorithm>
@@ -24,6 +29,8 @@ constexpr qreal CursorWidth = 3.0;
 constexpr int LegendFontPixels = 10;
 constexpr int LabelFontPixels = 12;
 constexpr int LayoutPeriodMs = 40;
+constexpr int NoteMargin = 8;   // pixels beside the line that stands over an empty chart
+constexpr int NotePadding = 16; // pixels between its letters and its edges, both together
 
 QFont pixelFont(int pixelSize)
 {
@@ -52,6 +59,7 @@ GyroChartView::GyroChartView(QWidget *parent) : QChartView(new QChart, parent)
     setupSeries();
     setupAxes();
     setupLook();
+    setupNote();
     mLayoutTimer.setSingleShot(true);
     mLayoutTimer.setInterval(LayoutPeriodMs);
     connect(&mLayoutTimer, &QTimer::timeout, this, &GyroChartView::layOutIfStale);
@@ -88,6 +96,12 @@ void GyroChartView::setCurAxis(int x)
     seriesCursor->replace(QVector<QPointF>{QPointF(x, -yRange), QPointF(x, yRange)});
 }
 
+void GyroChartView::setTelemetryMissing(bool isMissing)
+{
+    mNote->setVisible(isMissing);
+    placeNote();
+}
+
 void GyroChartView::clearAll()
 {
     mIsStale = false;
@@ -99,6 +113,19 @@ void GyroChartView::clearAll()
     yRange = FirstYRange;
     mAxisX->setRange(0, WindowSize);
     showYRange();
+}
+
+void GyroChartView::changeEvent(QEvent *event)
+{
+    QChartView::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        translateNote();
+}
+
+void GyroChartView::resizeEvent(QResizeEvent *event)
+{
+    QChartView::resizeEvent(event);
+    placeNote();
 }
 
 void GyroChartView::setupSeries()
@@ -157,6 +184,39 @@ void GyroChartView::setupLook()
     chart()->setMargins(QMargins());
     chart()->setBackgroundRoundness(0);
     chart()->setBackgroundVisible(false);
+}
+
+void GyroChartView::setupNote()
+{
+    mNote = new QLabel(this);
+    mNote->setObjectName(QStringLiteral("lbl_NoTelemetry"));
+    mNote->setAlignment(Qt::AlignCenter);
+    mNote->setWordWrap(true);
+    mNote->setAttribute(Qt::WA_TransparentForMouseEvents);
+    // On the ground of the chart, so that no line of its grid crosses the letters.
+    mNote->setStyleSheet(QStringLiteral(
+        "padding: 2px 6px; color: rgb(210, 210, 210); background: rgb(44, 44, 52);"));
+    translateNote();
+    mNote->hide();
+}
+
+void GyroChartView::translateNote()
+{
+    mNote->setText(tr("No telemetry in this recording"));
+    mNote->setFont(
+        languageFont(pixelFont(LabelFontPixels), Configuration::GetInstance()->language()));
+    placeNote();
+}
+
+/** In the middle of the lines, in as many lines as its width asks for. */
+void GyroChartView::placeNote()
+{
+    const int mostWidth = width() - 2 * NoteMargin;
+    const int wantedWidth = mNote->fontMetrics().horizontalAdvance(mNote->text()) + NotePadding;
+    const int noteWidth = std::min(wantedWidth, mostWidth);
+    QRect place(0, 0, noteWidth, mNote->heightForWidth(noteWidth));
+    place.moveCenter(mapFromScene(chart()->mapToScene(chart()->plotArea().center())));
+    mNote->setGeometry(place);
 }
 
 void GyroChartView::growYRange(const GyroData &sample)

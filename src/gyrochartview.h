@@ -10,6 +10,8 @@
 
 #include <QTimer>
 
+class QLabel;
+
 /**
  * The g-sensor chart: the accelerations along three axes against the number of the sample, and a
  * cursor at the sample being played. It holds a window of the last 6,000 samples.
@@ -33,13 +35,22 @@ public:
     void setAxisXRange(int count);
     /** Moves the cursor to sample @p x. */
     void setCurAxis(int x);
+    /** Whether a line over the empty chart says that the recording has no telemetry. */
+    void setTelemetryMissing(bool isMissing);
     /** Removes samples and cursor, and shows the axes as at the beginning. */
     void clearAll();
+
+protected:
+    void changeEvent(QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     void setupSeries();
     void setupAxes();
     void setupLook();
+    void setupNote();
+    void translateNote();
+    void placeNote();
     void growYRange(const GyroData &sample);
     void showYRange();
     void requestLayout();
@@ -56,6 +67,7 @@ private:
 
     QtCharts::QValueAxis *mAxisX = nullptr;
     QtCharts::QValueAxis *mAxisY = nullptr;
+    QLabel *mNote = nullptr;   // a child, over the chart
     QTimer mLayoutTimer;       // runs for a while after each layout
     bool mIsStale = false;     // samples were inserted since the last layout
     bool mFollowsLast = false; // the x axis is to show the window up to the last sample

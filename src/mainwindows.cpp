@@ -267,6 +267,7 @@ void MainWindows::onAllGpsDataParserFinished(int rowId, const QList<GpsData> &da
 {
     if (mIsStopped || !isPlayingRow(rowId))
         return;
+    mDisplays->setRecording(dataList);
     const GyroCurve curve = gyroCurveOf(dataList, mPlaylistModel->getCurPlayFileDuration(rowId),
                                         mPlaylistModel->getVideoframerate(rowId));
     if (!mDisplays->fillChart(curve))

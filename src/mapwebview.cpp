@@ -214,6 +214,23 @@ void MapWebView::clearAll()
         runScript(QStringLiteral("mapClearAll();"));
 }
 
+void MapWebView::loseFix(int sampleId, const std::optional<MapPoint> &lastFix)
+{
+    const QString longitude = lastFix ? fixed(lastFix->longitude) : QStringLiteral("null");
+    const QString latitude = lastFix ? fixed(lastFix->latitude) : QStringLiteral("null");
+    runScript(QStringLiteral("window.mapLoseFix && mapLoseFix(%1, %2, %3);")
+                  .arg(longitude, latitude)
+                  .arg(sampleId));
+}
+
+void MapWebView::setTelemetryMissing(bool isMissing)
+{
+    if (isMissing == mIsTelemetryMissing)
+        return;
+    mIsTelemetryMissing = isMissing;
+    tellTelemetry();
+}
+
 void MapWebView::setWebViewVisible(bool visible)
 {
     qDebug() << "setWebViewVisible";
@@ -288,6 +305,14 @@ void MapWebView::loadPage(const QString &fileName)
     webView->page()->profile()->setHttpAcceptLanguage(QLatin1String(ofLanguage(PageLanguages)));
     mRequests->readHosts();
     mCalls->load(QUrl::fromLocalFile(MapRequests::folder() + fileName));
+    if (mIsTelemetryMissing)
+        tellTelemetry(); // for a new page knows nothing
+}
+
+void MapWebView::tellTelemetry()
+{
+    runScript(QStringLiteral("window.mapMissTelemetry && mapMissTelemetry(%1);")
+                  .arg(QLatin1String(mIsTelemetryMissing ? "true" : "false")));
 }
 
 /** With the provider's key and no other. */

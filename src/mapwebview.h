@@ -10,6 +10,7 @@
 #include <QWidget>
 
 #include <memory>
+#include <optional>
 
 class MapRequests;
 class OverlayWindow;
@@ -64,6 +65,12 @@ public slots:
     /** Extends the live track by a point, which must be a position. */
     void addPoint(const MapPoint &point);
     void clearAll();
+    /** Shows the position in grey, at the last fix before the sample with this number, or none if
+     *  there has not been any. The next point brings the colour back. */
+    void loseFix(int sampleId, const std::optional<MapPoint> &lastFix);
+    /** Whether a line on the map says that the recording has no telemetry, on the pages to come as
+     *  well. */
+    void setTelemetryMissing(bool isMissing);
     /** Lays the web view over this widget, or parks it below the screen, where it keeps running. */
     void setWebViewVisible(bool visible);
     /** Sends a whole track, pairs of longitude and latitude, unless the map is cleared before that.
@@ -79,6 +86,7 @@ protected:
 private:
     void setupWebView();
     void loadPage(const QString &fileName);
+    void tellTelemetry();
     void loadPageOf(MapTypes provider, const QString &fileName);
     void loadPageAgain();
     void keepTilesOnDisk(QWebEngineProfile *profile);
@@ -89,7 +97,8 @@ private:
     QWebEngineView *webView = nullptr; // deleted by hand: its page goes before the profile
     bool wheelZoomValid = true;
     QWidget *topWindow = nullptr; ///< the window that this widget lies in, may be null
-    bool allDataLoaded = false;   ///< a track was offered, whether or not the page took it
+    bool mIsTelemetryMissing = false;
+    bool allDataLoaded = false; ///< a track was offered, whether or not the page took it
 
     const MapKeys mKeys = MapKeys::ofProgram();
     OverlayWindow *mOverlay = nullptr;

@@ -36,6 +36,9 @@ constexpr double TextRoomHeight = 0.125;
 const QColor NeedleShadow(78, 18, 18);
 const QColor NeedleLight(Qt::darkRed);
 
+// Instead of these, while there is no fix.
+const QColor GreyText(150, 150, 156);
+
 bool isMetric()
 {
     return Configuration::GetInstance()->speedUnit() == 0;
@@ -58,6 +61,14 @@ void SpeedTray::setSpeed(int kmh)
     mSpeedKmh = kmh;
     speed = isMetric() ? kmh : int(kmh / KmPerMile);
     angle = angleOnDial(speed);
+    showSpeed();
+}
+
+void SpeedTray::setHasFix(bool hasFix)
+{
+    if (hasFix == mHasFix)
+        return;
+    mHasFix = hasFix;
     showSpeed();
 }
 
@@ -86,13 +97,17 @@ void SpeedTray::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     drawGaugeFace(painter, gaugeSquare(size()), pixmap);
+    if (!mHasFix)
+        fadeGaugeFace(painter, gaugeSquare(size()));
     drawSpeedText(painter);
     drawNeedle(painter);
 }
 
 void SpeedTray::showSpeed()
 {
-    setAccessibleDescription(speedText()); // the picture says nothing to a screen reader
+    // The picture says nothing to a screen reader.
+    setAccessibleDescription(mHasFix ? speedText() : withoutFixText(speedText()));
+    setToolTip(mHasFix ? QString() : accessibleDescription());
     update();
 }
 
@@ -110,7 +125,8 @@ void SpeedTray::drawSpeedText(QPainter &painter) const
     const int side = gaugeSquare(size()).width();
     const int points = side >= LargeTextSide ? LargeTextPoints : SmallTextPoints;
     const QSize room(int(side * TextRoomWidth), int(side * TextRoomHeight));
-    painter.setPen(QPen(TextColor, 3.0, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
+    painter.setPen(
+        QPen(mHasFix ? TextColor : GreyText, 3.0, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
     // The dial does not grow with the text of the screen.
     painter.setFont(fittedFont(QFont(QStringLiteral("Calibri"), points), speedText(), room));
     // The rectangle is lower than a line of the font, and at many sizes narrower than the text.
@@ -124,9 +140,11 @@ void SpeedTray::drawNeedle(QPainter &painter) const
     const qreal base = 0.5 * NeedleWidth * side;
     const qreal length = NeedleLength * side;
     const qreal tip = NeedleTipHalfWidth;
+    const QColor light = mHasFix ? NeedleLight : GreyNeedleLight;
 
     turnGaugeNeedle(painter, size(), angle);
-    drawNeedlePart(painter, NeedleShadow, {{{0, 0}, {-base, 0}, {-tip, -length}, {0, -length}}});
-    drawNeedlePart(painter, NeedleLight, {{{0, 0}, {base, 0}, {tip, -length}, {0, -length}}});
-    drawNeedleHub(painter, NeedleLight, NeedleWidth * side - 1.0);
+    drawNeedlePart(painter, mHasFix ? NeedleShadow : GreyNeedleShadow,
+                   {{{0, 0}, {-base, 0}, {-tip, -length}, {0, -length}}});
+    drawNeedlePart(painter, light, {{{0, 0}, {base, 0}, {tip, -length}, {0, -length}}});
+    drawNeedleHub(painter, light, NeedleWidth * side - 1.0);
 }

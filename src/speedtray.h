@@ -25,6 +25,9 @@ public:
      *  above 220, changes nothing. */
     void setSpeed(int kmh);
 
+    /** Whether the speed was measured, as it is at first; without a fix it is shown in grey. */
+    void setHasFix(bool hasFix);
+
     /** The speed shown, in km/h as it was set. */
     int speedKmh() const { return mSpeedKmh; }
     /** The number shown, in the unit that was configured when it was set. */
@@ -52,4 +55,5 @@ private:
     int angle = 0;
     int speed = 0;
     int mSpeedKmh = 0;
+    bool mHasFix = true;
 };

@@ -4,6 +4,7 @@
 
 #include "controlpanel.h"
 #include "directiontray.h"
+#include "fix.h"
 #include "gpsuser.h"
 #include "gyrochartview.h"
 #include "mapwebview.h"
@@ -25,6 +26,11 @@ QString coordinateText(char reference, double degrees)
     return QLatin1Char(reference) + QString::number(std::fabs(degrees), 'f', 6);
 }
 
+MapPoint pointOf(const GpsData &sample)
+{
+    return {sample.id, sample.longitude, sample.latitude};
+}
+
 QVector<QVector<double>> trackOf(const QList<GpsData> &samples)
 {
     QVector<QVector<double>> track;
@@ -35,6 +41,12 @@ QVector<QVector<double>> trackOf(const QList<GpsData> &samples)
 }
 
 } // namespace
+
+void TelemetryDisplays::setRecording(const QList<GpsData> &samples)
+{
+    mSamples = samples;
+    showMissing(samples.isEmpty());
+}
 
 void TelemetryDisplays::showSample(const GpsData &sample)
 {
@@ -48,12 +60,20 @@ void TelemetryDisplays::showSample(const GpsData &sample)
     mWidgets.speed->setSpeed(sample.speed);
     mWidgets.direction->setDirection(int(sample.direction));
     mWidgets.chart->setCurAxis(sample.id);
-    if (sample.longitude != 0.0 || sample.latitude != 0.0)
-        mWidgets.map->addPoint({sample.id, sample.longitude, sample.latitude});
+    showFix(hasFix(sample));
+    if (hasPosition(sample))
+        mWidgets.map->addPoint(pointOf(sample));
+    if (hasFix(sample))
+        return;
+    const GpsData *last = lastFixBefore(mSamples, sample.id);
+    mWidgets.map->loseFix(sample.id, last ? std::make_optional(pointOf(*last)) : std::nullopt);
 }
 
 void TelemetryDisplays::clearGauges()
 {
+    mSamples.clear();
+    showFix(true);
+    showMissing(false);
     mWidgets.speed->setSpeed(0);
     mWidgets.chart->clearAll();
 }
@@ -108,4 +128,19 @@ void TelemetryDisplays::showSpeedUnit()
 {
     mWidgets.panel->setGpsSpeed(mWidgets.panel->gpsSpeed());
     mWidgets.speed->setSpeed(mWidgets.speed->speedKmh());
+}
+
+/** What the receiver does not measure without a fix is greyed; the clock and the g-sensor run on.
+ */
+void TelemetryDisplays::showFix(bool hasFix)
+{
+    mWidgets.panel->setHasFix(hasFix);
+    mWidgets.speed->setHasFix(hasFix);
+    mWidgets.direction->setHasFix(hasFix);
+}
+
+void TelemetryDisplays::showMissing(bool isMissing)
+{
+    mWidgets.chart->setTelemetryMissing(isMissing);
+    mWidgets.map->setTelemetryMissing(isMissing);
 }

@@ -33,9 +33,12 @@ public:
 
     explicit TelemetryDisplays(const Widgets &widgets) : mWidgets(widgets) {}
 
+    /** Takes all samples of the recording that is played, before any of them is shown. Says so if
+     *  there are none. */
+    void setRecording(const QList<GpsData> &samples);
     /** Shows what was measured in the second that is played. */
     void showSample(const GpsData &sample);
-    /** Empties speed gauge and chart at once. */
+    /** Empties speed gauge and chart at once, and forgets the recording. */
     void clearGauges();
     /** Empties all but the map at once: nothing of the last recording stays. */
     void clearRecording();
@@ -54,7 +57,11 @@ public:
     void showSpeedUnit();
 
 private:
+    void showFix(bool hasFix);
+    void showMissing(bool isMissing);
+
     Widgets mWidgets;
-    int mFillings = 0;  // a later one takes over
-    int mClearings = 0; // of the map, one within the other
+    QList<GpsData> mSamples; // of the recording that is played
+    int mFillings = 0;       // a later one takes over
+    int mClearings = 0;      // of the map, one within the other
 };

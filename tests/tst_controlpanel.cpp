@@ -20,6 +20,7 @@ private slots:
     void positions();
     void dragging();
     void readOuts();
+    void withoutFix();
     void stepper();
 
 private:
@@ -239,6 +240,32 @@ void TestControlPanel::readOuts()
     QCOMPARE(text("lbl_LongitudeAndLatitude"), QString("00.000000,000.000000"));
     QCOMPARE(text("pBtn_SP"), QString("000 MPH"));
     QCOMPARE(text("lbl_PlayTime"), QString("00:00/01:40"));
+}
+
+/** Speed and coordinates go grey, and say so; date and time are the camera's own. */
+void TestControlPanel::withoutFix()
+{
+    const auto brightest = [this](const char *label) {
+        const QImage image = child(label)->grab().toImage();
+        int most = 0;
+        for (int i = 0; i < image.width() * image.height(); ++i)
+            most = qMax(most, qGray(image.pixel(i % image.width(), i / image.width())));
+        return most;
+    };
+    mPanel->setStyleSheet(QStringLiteral("background: rgb(44, 44, 52)"));
+    mPanel->setHasFix(false);
+    Configuration::GetInstance()->setLanguage(EnglishUS); // which the form's words come back with
+    for (const char *label : {"pBtn_SP", "lbl_LongitudeAndLatitude"}) {
+        // On this ground 3 : 1 takes a grey of 119; the normal one is 210.
+        QVERIFY(brightest(label) >= 119 && brightest(label) < 160);
+        QVERIFY(child(label)->accessibleDescription().endsWith(" (no position fix)"));
+        QCOMPARE(child(label)->toolTip(), child(label)->accessibleDescription());
+    }
+    QVERIFY(brightest("lbl_GpsDateTime") > 190);
+    mPanel->setHasFix(true);
+    QVERIFY(brightest("pBtn_SP") > 190 && brightest("lbl_LongitudeAndLatitude") > 190);
+    QCOMPARE(child("pBtn_SP")->accessibleDescription(), QString("Speed"));
+    QCOMPARE(child("pBtn_SP")->toolTip(), QString());
 }
 
 void TestControlPanel::stepper()

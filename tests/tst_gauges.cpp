@@ -106,6 +106,28 @@ public:
     }
 };
 
+/** As the guidelines for accessible texts define it, from 1 to 21. */
+double contrast(QRgb a, QRgb b)
+{
+    const auto light = [](QRgb color) {
+        const auto part = [](int value) { return std::pow((value / 255.0 + 0.055) / 1.055, 2.4); };
+        return 0.2126 * part(qRed(color)) + 0.7152 * part(qGreen(color)) +
+               0.0722 * part(qBlue(color)) + 0.05;
+    };
+    return std::max(light(a), light(b)) / std::min(light(a), light(b));
+}
+
+/** How many pixels are red beyond doubt. */
+int redPixels(const QImage &image)
+{
+    int count = 0;
+    for (int i = 0; i < image.width() * image.height(); ++i) {
+        const QRgb color = image.pixel(i % image.width(), i / image.width());
+        count += qRed(color) - std::max(qGreen(color), qBlue(color)) > 60;
+    }
+    return count;
+}
+
 /** Where the written speed stands. */
 QRect textRect(const QImage &image)
 {
@@ -133,6 +155,7 @@ private slots:
     void speedNeedle();
     void speedTextStaysBetweenTheNumbers();
     void headings();
+    void withoutFix();
     void longGauges();
 };
 
@@ -237,6 +260,44 @@ void TestGauges::headings()
         for (const auto &[deg, color] : quarters)
             QVERIFY(isColor(colorAt(image, placeAt(image, heading + deg, 40)), color));
     }
+}
+
+/** The values stay, but in a grey that stands out from the dial, and words say so as well. */
+void TestGauges::withoutFix()
+{
+    SpeedTray dial;
+    dial.setSpeed(110); // straight up
+    DirectionTray compass;
+    compass.setDirection(90);
+    const QImage dialBefore = picture(&dial);
+    const QImage compassBefore = picture(&compass);
+    QVERIFY(redPixels(dialBefore) > 100 && redPixels(compassBefore) > 100);
+    dial.setHasFix(false);
+    compass.setHasFix(false);
+    const QImage greyDial = picture(&dial);
+    const QImage greyCompass = picture(&compass);
+    QVERIFY(dialBefore != greyDial && compassBefore != greyCompass);
+    QCOMPARE(redPixels(greyDial.copy(150, 100, 100, 300)), 0); // needle and text, not the scale
+    QCOMPARE(redPixels(greyCompass.copy(100, 100, 200, 200)), 0);
+    const struct
+    {
+        const QImage &image;
+        double headingDeg;
+    } needles[] = {{greyDial, 0}, {greyCompass, 90}};
+    for (const auto &[image, headingDeg] : needles) {
+        const QRgb ground = colorAt(image, placeAt(image, headingDeg + 20, 70));
+        for (const int beside : {-3, 3})
+            QVERIFY(contrast(colorAt(image, placeAt(image, headingDeg + beside, 40)), ground) > 3);
+    }
+    QCOMPARE(dial.accessibleDescription(), QStringLiteral("110 km/h (no position fix)"));
+    QCOMPARE(compass.accessibleDescription(), QStringLiteral("90\u00b0 (no position fix)"));
+
+    dial.setSpeed(110); // says nothing of a fix
+    dial.setHasFix(true);
+    compass.setHasFix(true);
+    QCOMPARE(picture(&dial), dialBefore);
+    QCOMPARE(picture(&compass), compassBefore);
+    QCOMPARE(dial.accessibleDescription(), QStringLiteral("110 km/h"));
 }
 
 /** The middle square of a long gauge looks like a square gauge, but for the written speed. */

@@ -143,6 +143,8 @@ private slots:
     void showsTheShortWayRound();
     void drivenPart_data();
     void drivenPart();
+    void withoutFix_data();
+    void withoutFix();
     void clearing();
     void following();
     void longRoutesArrive_data();
@@ -463,6 +465,47 @@ void tst_MapPages::drivenPart()
     QTEST(state("drivenSegments").toInt(), "segments");
 }
 
+void tst_MapPages::withoutFix_data()
+{
+    QTest::addColumn<int>("shownAt"); // the number of a place, -1: none
+    QTest::addColumn<bool>("isLost");
+    QTest::addColumn<int>("points"); // of the driven part
+    QTest::newRow("drive(0, 1); lose(2, 1); lose(3, 1)") << 1 << true << 2;
+    QTest::newRow("drive(0, 1); lose(4, 3) /* samples were skipped */") << 1 << true << 2;
+    QTest::newRow("drive(0, 1); lose(2, 1); drive(3) /* back at once */") << 3 << false << 3;
+    QTest::newRow("drive(0, 1); lose(20, 18) /* a jump into it */") << 18 << true << 2;
+    QTest::newRow("drive(30); lose(20, 18) /* back into it */") << 18 << true << 0;
+    QTest::newRow("drive(30); lose(2) /* before the first fix */") << -1 << true << 0;
+    QTest::newRow("lose(0); lose(1) /* from the beginning */") << -1 << true << 0;
+    QTest::newRow("drive(0); mapAddPoint(500, 95, 1) /* nonsense */") << 0 << true << 1;
+    QTest::newRow("drive(0, 1); lose(2, 1); mapClearAll(); drive(7)") << 7 << false << 1;
+    QTest::newRow("route(0, 39, 40, 5, 6, 7); drive(4); lose(6, 4)") << 4 << true << 5;
+}
+
+void tst_MapPages::withoutFix()
+{
+    QFETCH(int, shownAt);
+    QFETCH(bool, isLost);
+    open(OpenStreetMap);
+    run(QStringLiteral("window.faults = 0; window.onerror = () => { faults += 1; };"
+                       "const lose = (id, last) =>"
+                       "    mapLoseFix(...(last === undefined ? [null, null] : at(last)), id);"));
+    run(QLatin1String(QTest::currentDataTag()));
+    settle();
+    QCOMPARE(run(QStringLiteral("faults")).toInt(), 0);
+    QTEST(state("drivenPoints").toInt(), "points");
+    QCOMPARE(pointOf(state("position")), shownAt < 0 ? QPointF() : at(shownAt));
+    const auto marks = [this](const char *image) {
+        return run(QStringLiteral("document.querySelectorAll('[src$=\"%1\"]').length")
+                       .arg(QLatin1String(image)))
+            .toInt();
+    };
+    QCOMPARE(marks("lost.svg"), int(isLost && shownAt >= 0));
+    QCOMPARE(marks("position.svg"), int(!isLost));
+    if (isLost && shownAt >= 0)
+        QTRY_VERIFY(pixels(qRgb(120, 120, 128)) > 30);
+}
+
 void tst_MapPages::clearing()
 {
     open(OpenStreetMap);
@@ -550,6 +593,11 @@ void tst_MapPages::callsBeforeReady()
     QCOMPARE(report[QStringLiteral("lengths")].toList(), (QVariantList{2, 4, 4, 5, 5}));
     QCOMPARE(report[QStringLiteral("marks")].toStringList().join(QLatin1Char(' ')),
              QStringLiteral("end.svg position.svg start.svg"));
+    run(QStringLiteral("mapLoseFix(...at(1), 2); mapMissTelemetry(true)"));
+    settle();
+    QCOMPARE(run(QStringLiteral("standIn.report().marks.join()")).toString(),
+             QStringLiteral("end.svg,lost.svg,start.svg"));
+    QCOMPARE(state("empty").toString(), QStringLiteral("No telemetry in this recording"));
 
     run(QStringLiteral("mapClearAll()"));
     QTRY_COMPARE(state("drivenPoints").toInt(), 0);
@@ -791,6 +839,13 @@ void tst_MapPages::namesAreThoseOfTheDialog()
                          .toString(),
                      wanted);
         }
+        // So is the line for a recording without telemetry, on the map and on the chart.
+        const QRegularExpression line(QStringLiteral("No telemetry in this recording</source>\\s*"
+                                                     "<translation>([^<]+)</translation>"));
+        QCOMPARE(
+            run(QStringLiteral("talvorMap.textsIn('%1').noTelemetry").arg(QLatin1String(language)))
+                .toString(),
+            line.match(text).captured(1));
         // The note is in every language.
         QVERIFY(run(QStringLiteral("talvorMap.textsIn('%1').tilesMissing !=="
                                    " talvorMap.textsIn('en').tilesMissing")

@@ -139,6 +139,7 @@ private slots:
     void longTracksLetOthersBefore();
     void comesBackWhenThePageDies();
     void comesBackWhenAScriptLeaves();
+    void newPagesAreToldOfMissingTelemetry();
     void callsWaitForThePage();
     void callsWaitForTheLastOfTwoPages();
     void followsItsPlace();
@@ -367,6 +368,21 @@ void TestMapWebView::comesBackWhenThePageDies()
 
     mMap->setMapType(MapOpenStreetMap);
     QTRY_COMPARE(stateOf("String(talvorMap.state().routePoints)"), QString("2"));
+}
+
+void TestMapWebView::newPagesAreToldOfMissingTelemetry()
+{
+    const auto line = [this] { return stateOf("window.talvorMap && talvorMap.state().empty"); };
+    mMap->setTelemetryMissing(true);
+    setLanguage(German);
+    mMap->setMapType(MapOpenStreetMap);
+    QTRY_COMPARE(line(), QString("Keine Telemetriedaten in dieser Aufnahme"));
+    mMap->clearAll(); // of a drive, which there is none of
+    setLanguage(French);
+    mMap->setMapType(MapGoogle);
+    QTRY_COMPARE(line(), QString("Aucune donnée de télémétrie dans cet enregistrement"));
+    mMap->setTelemetryMissing(false);
+    QTRY_COMPARE(line(), QString());
 }
 
 void TestMapWebView::comesBackWhenAScriptLeaves()

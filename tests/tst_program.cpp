@@ -95,6 +95,8 @@ private slots:
     void fillsChartAndMap_data();
     void fillsChartAndMap();
     void samplesNotToBeShown();
+    void showsWhereThereIsNoFix();
+    void saysThatThereIsNoTelemetry();
     void keepsTheTrackThatCameLast();
     void keysAndSeeking();
     void rateVolumeAndMute();
@@ -319,6 +321,63 @@ void tst_Program::samplesNotToBeShown()
         QVERIFY(chartLine(line).isEmpty());
     QTRY_COMPARE(map("routePoints"), QString("0"));
     QCOMPARE(map("position"), QString("null"));
+}
+
+/** Without a fix in the seconds 0, 1, and 8 to 17, wherever one comes from. */
+void tst_Program::showsWhereThereIsNoFix()
+{
+    QList<TelemetryBlock> samples;
+    for (int i = 0; i < PairSeconds; ++i)
+        samples.append(i < 2 || (i >= 8 && i < 18) ? TelemetryBlock() : sampleOf(i));
+    QVERIFY(makeMediaFile(path("tunnel.mp4"), PairSeconds, samples));
+    openArguments({path("tunnel.mp4")});
+    QTRY_VERIFY(player()->position() > 0);
+    const struct
+    {
+        int second;
+        int shownAt; // -1: nowhere
+    } steps[] = {{5, 5}, {15, 7}, {19, 19}, {9, 7}, {0, -1}, {3, 3}};
+    for (const auto &[second, shownAt] : steps) {
+        pauseAt(second);
+        const bool hasFix = second == shownAt;
+        QTRY_COMPARE(chartLine(3).value(0).x(), double(second)); // the g-sensor goes on
+        QCOMPARE(text("pBtn_SP"), hasFix ? speedTextOf(second) : QStringLiteral("000 km/h"));
+        for (const char *name : {"pBtn_SP", "lbl_LongitudeAndLatitude"})
+            QCOMPARE(child<QLabel>(name)->isEnabled(), hasFix);
+        for (const char *name : {"wgt_Speed", "wgt_Direction"})
+            QCOMPARE(child<QWidget>(name)->accessibleDescription().contains("no position fix"),
+                     !hasFix);
+        QTRY_COMPARE(map("position"), shownAt < 0 ? QString("null") : mapPositionOf(shownAt));
+        QCOMPARE(map("isLost"), QString(!hasFix && shownAt >= 0 ? "true" : "false"));
+    }
+    pauseAt(15);
+    QTRY_VERIFY(!child<QLabel>("pBtn_SP")->isEnabled());
+    click("btn_Stop");
+    QVERIFY(child<QLabel>("pBtn_SP")->isEnabled());
+    QVERIFY(!child<QWidget>("wgt_Direction")->accessibleDescription().contains("fix"));
+}
+
+void tst_Program::saysThatThereIsNoTelemetry()
+{
+    const auto *line = child<QLabel>("lbl_NoTelemetry");
+    const QString text = QStringLiteral("No telemetry in this recording");
+    QVERIFY(!line->isVisible());
+    for (const bool isStopped : {true, false}) {
+        openArguments({path("one.mp4")});
+        QVERIFY(!line->isVisible()); // nobody knows yet
+        QTRY_VERIFY(line->isVisible());
+        QCOMPARE(line->text(), text);
+        QVERIFY(child<QWidget>("gView_GyroChart")->rect().contains(line->geometry()));
+        QCOMPARE(map("empty"), QString("\"%1\"").arg(text));
+        if (isStopped)
+            click("btn_Stop");
+        else
+            openArguments({path("MOVA0001.MP4")});
+        QVERIFY(!line->isVisible());
+        QTRY_COMPARE(map("empty"), QString("\"\""));
+    }
+    QTRY_COMPARE(chartLine(0).size(), PairSeconds);
+    QVERIFY(!line->isVisible());
 }
 
 /** A track is kept for the next page, and sending one lets another be delivered. */

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Quellfern
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "fix.h"
 #include "parserobject.h"
 #include "telemetryblock.h"
 
@@ -49,6 +50,9 @@ private slots:
     void directions_data();
     void directions();
     void integers();
+    void fixes_data();
+    void fixes();
+    void lastFixes();
 
 private:
     GpsData decode(const QByteArray &block, int number = 1);
@@ -155,6 +159,45 @@ void TestSampleDecoding::integers()
     QCOMPARE(parser.readUint16_fromLittle(), quint16(0x0201));
     QCOMPARE(parser.readUint16_fromBig(), quint16(0x0304));
     QCOMPARE(parser.readUint32_fromBig(), 0x91929300u); // what the file lacks is zero
+}
+
+void TestSampleDecoding::fixes_data()
+{
+    QTest::addColumn<double>("latitude");
+    QTest::addColumn<double>("longitude");
+    QTest::addColumn<bool>("isPosition");
+    QTest::addColumn<bool>("isFix");
+    QTest::newRow("zeros") << 0.0 << 0.0 << false << false;
+    QTest::newRow("on the equator") << 0.0 << 9.5 << true << true;
+    QTest::newRow("on the meridian") << -9.5 << 0.0 << true << true;
+    QTest::newRow("last corner of the globe") << -90.0 << -180.0 << true << true;
+    QTest::newRow("beyond the pole") << 90.001 << 9.5 << true << false;
+    QTest::newRow("beyond the last meridian") << 9.5 << -180.001 << true << false;
+}
+
+void TestSampleDecoding::fixes()
+{
+    QFETCH(double, latitude);
+    QFETCH(double, longitude);
+    GpsData sample;
+    sample.latitude = latitude;
+    sample.longitude = longitude;
+    QTEST(hasPosition(sample), "isPosition");
+    QTEST(hasFix(sample), "isFix");
+}
+
+void TestSampleDecoding::lastFixes()
+{
+    QList<GpsData> samples;
+    for (const double latitude : {0.0, 0.0, 48.0, 0.0, 49.0, 95.0, 0.0}) {
+        samples.append(GpsData());
+        samples.last().latitude = latitude;
+    }
+    const double last[] = {0, 0, 0, 48, 48, 49, 49, 49, 49}; // one beyond the end included
+    for (int index = 0; index < 9; ++index) {
+        const GpsData *fix = lastFixBefore(samples, index);
+        QCOMPARE(fix ? fix->latitude : 0.0, last[index]);
+    }
 }
 
 QTEST_GUILESS_MAIN(TestSampleDecoding)

@@ -83,6 +83,10 @@
         <source>Mute</source>
         <translation>静音</translation>
     </message>
+    <message>
+        <source>%1 (no position fix)</source>
+        <translation>%1（无定位）</translation>
+    </message>
 </context>
 <context>
     <name>FComboBox</name>
@@ -93,6 +97,13 @@
     <message>
         <source>Quick</source>
         <translation>加速</translation>
+    </message>
+</context>
+<context>
+    <name>GyroChartView</name>
+    <message>
+        <source>No telemetry in this recording</source>
+        <translation>此录像不含遥测数据</translation>
     </message>
 </context>
 <context>

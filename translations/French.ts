@@ -83,6 +83,10 @@
         <source>Mute</source>
         <translation>Couper le son</translation>
     </message>
+    <message>
+        <source>%1 (no position fix)</source>
+        <translation>%1 (position indisponible)</translation>
+    </message>
 </context>
 <context>
     <name>FComboBox</name>
@@ -93,6 +97,13 @@
     <message>
         <source>Quick</source>
         <translation>Accélérer</translation>
+    </message>
+</context>
+<context>
+    <name>GyroChartView</name>
+    <message>
+        <source>No telemetry in this recording</source>
+        <translation>Aucune donnée de télémétrie dans cet enregistrement</translation>
     </message>
 </context>
 <context>

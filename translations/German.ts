@@ -83,6 +83,10 @@
         <source>Mute</source>
         <translation>Stummschalten</translation>
     </message>
+    <message>
+        <source>%1 (no position fix)</source>
+        <translation>%1 (keine Ortung)</translation>
+    </message>
 </context>
 <context>
     <name>FComboBox</name>
@@ -93,6 +97,13 @@
     <message>
         <source>Quick</source>
         <translation>Schneller</translation>
+    </message>
+</context>
+<context>
+    <name>GyroChartView</name>
+    <message>
+        <source>No telemetry in this recording</source>
+        <translation>Keine Telemetriedaten in dieser Aufnahme</translation>
     </message>
 </context>
 <context>

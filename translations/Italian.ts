@@ -83,6 +83,10 @@
         <source>Mute</source>
         <translation>Disattiva audio</translation>
     </message>
+    <message>
+        <source>%1 (no position fix)</source>
+        <translation>%1 (posizione non disponibile)</translation>
+    </message>
 </context>
 <context>
     <name>FComboBox</name>
@@ -93,6 +97,13 @@
     <message>
         <source>Quick</source>
         <translation>Più veloce</translation>
+    </message>
+</context>
+<context>
+    <name>GyroChartView</name>
+    <message>
+        <source>No telemetry in this recording</source>
+        <translation>Nessun dato di telemetria in questa registrazione</translation>
     </message>
 </context>
 <context>

@@ -83,6 +83,10 @@
         <source>Mute</source>
         <translation>ミュート</translation>
     </message>
+    <message>
+        <source>%1 (no position fix)</source>
+        <translation>%1（測位できていません）</translation>
+    </message>
 </context>
 <context>
     <name>FComboBox</name>
@@ -93,6 +97,13 @@
     <message>
         <source>Quick</source>
         <translation>再生速度を上げる</translation>
+    </message>
+</context>
+<context>
+    <name>GyroChartView</name>
+    <message>
+        <source>No telemetry in this recording</source>
+        <translation>この録画にテレメトリーはありません</translation>
     </message>
 </context>
 <context>

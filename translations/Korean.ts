@@ -83,6 +83,10 @@
         <source>Mute</source>
         <translation>음소거</translation>
     </message>
+    <message>
+        <source>%1 (no position fix)</source>
+        <translation>%1(위치 정보 없음)</translation>
+    </message>
 </context>
 <context>
     <name>FComboBox</name>
@@ -93,6 +97,13 @@
     <message>
         <source>Quick</source>
         <translation>빠르게</translation>
+    </message>
+</context>
+<context>
+    <name>GyroChartView</name>
+    <message>
+        <source>No telemetry in this recording</source>
+        <translation>이 녹화에는 텔레메트리 데이터가 없습니다</translation>
     </message>
 </context>
 <context>

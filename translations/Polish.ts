@@ -83,6 +83,10 @@
         <source>Mute</source>
         <translation>Wycisz</translation>
     </message>
+    <message>
+        <source>%1 (no position fix)</source>
+        <translation>%1 (brak ustalonej pozycji)</translation>
+    </message>
 </context>
 <context>
     <name>FComboBox</name>
@@ -93,6 +97,13 @@
     <message>
         <source>Quick</source>
         <translation>Szybciej</translation>
+    </message>
+</context>
+<context>
+    <name>GyroChartView</name>
+    <message>
+        <source>No telemetry in this recording</source>
+        <translation>To nagranie nie zawiera danych telemetrycznych</translation>
     </message>
 </context>
 <context>

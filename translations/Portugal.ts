@@ -83,6 +83,10 @@
         <source>Mute</source>
         <translation>Silenciar</translation>
     </message>
+    <message>
+        <source>%1 (no position fix)</source>
+        <translation>%1 (posição indisponível)</translation>
+    </message>
 </context>
 <context>
     <name>FComboBox</name>
@@ -93,6 +97,13 @@
     <message>
         <source>Quick</source>
         <translation>Mais rápido</translation>
+    </message>
+</context>
+<context>
+    <name>GyroChartView</name>
+    <message>
+        <source>No telemetry in this recording</source>
+        <translation>Esta gravação não contém dados de telemetria</translation>
     </message>
 </context>
 <context>

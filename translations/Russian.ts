@@ -83,6 +83,10 @@
         <source>Mute</source>
         <translation>Выключить звук</translation>
     </message>
+    <message>
+        <source>%1 (no position fix)</source>
+        <translation>%1 (местоположение не определено)</translation>
+    </message>
 </context>
 <context>
     <name>FComboBox</name>
@@ -93,6 +97,13 @@
     <message>
         <source>Quick</source>
         <translation>Быстрее</translation>
+    </message>
+</context>
+<context>
+    <name>GyroChartView</name>
+    <message>
+        <source>No telemetry in this recording</source>
+        <translation>В этой записи нет телеметрии</translation>
     </message>
 </context>
 <context>

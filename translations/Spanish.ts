@@ -83,6 +83,10 @@
         <source>Mute</source>
         <translation>Silenciar</translation>
     </message>
+    <message>
+        <source>%1 (no position fix)</source>
+        <translation>%1 (posición no disponible)</translation>
+    </message>
 </context>
 <context>
     <name>FComboBox</name>
@@ -93,6 +97,13 @@
     <message>
         <source>Quick</source>
         <translation>Más rápido</translation>
+    </message>
+</context>
+<context>
+    <name>GyroChartView</name>
+    <message>
+        <source>No telemetry in this recording</source>
+        <translation>Esta grabación no contiene datos de telemetría</translation>
     </message>
 </context>
 <context>
