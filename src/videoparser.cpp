@@ -2,9 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "videoparser.h"
 
-#include "aviparser.h"
-#include "mp4parser.h"
 #include "noeventdispatcher.h"
+#include "recordingwalker.h"
 
 #include <QCoreApplication>
 #include <QDebug>
@@ -34,18 +33,6 @@ QSemaphore &readingTurns()
 bool lacksDescriptors(const ParserObject &walker)
 {
     return walker.file.error() == QFileDevice::ResourceError;
-}
-
-VideoInfo videoInfoOf(const ParserObject &walker)
-{
-    VideoInfo info;
-    info.width = walker.width;
-    info.height = walker.height;
-    info.duration = walker.duration;
-    info.frameRate = walker.frameRate;
-    info.createDate = walker.createDate;
-    info.decodeType = walker.decodeType;
-    return info;
 }
 
 } // namespace
@@ -154,22 +141,14 @@ bool VideoParser::awaitTurn(QSemaphoreReleaser &turn) const
 
 std::unique_ptr<ParserObject> VideoParser::openWalker() const
 {
-    std::unique_ptr<ParserObject> walker = createWalker();
+    std::unique_ptr<ParserObject> walker = createWalker(url.toLocalFile(), &running);
     for (int tries = 1; tries < MaxOpenTries && lacksDescriptors(*walker) &&
                         running.load(std::memory_order_relaxed);
          ++tries) {
         msleep(OpenRetryMs);
-        walker = createWalker();
+        walker = createWalker(url.toLocalFile(), &running);
     }
     return walker;
-}
-
-std::unique_ptr<ParserObject> VideoParser::createWalker() const
-{
-    const QString fileName = url.toLocalFile();
-    if (fileName.endsWith(QLatin1String(".AVI"), Qt::CaseInsensitive))
-        return std::make_unique<AVIParser>(fileName, nullptr, &running);
-    return std::make_unique<Mp4Parser>(fileName, nullptr, &running);
 }
 
 void VideoParser::decodeAll(ParserObject &walker)

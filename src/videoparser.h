@@ -72,7 +72,6 @@ private:
     void readRecording();
     bool awaitTurn(QSemaphoreReleaser &turn) const;
     std::unique_ptr<ParserObject> openWalker() const;
-    std::unique_ptr<ParserObject> createWalker() const;
     void decodeAll(ParserObject &walker);
     void serve();
     void waitForEnd();
