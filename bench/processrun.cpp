@@ -7,6 +7,7 @@
 
 #include <fcntl.h>
 #include <spawn.h>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -41,13 +42,15 @@ private:
     posix_spawn_file_actions_t mActions;
 };
 
-bool endsWell(pid_t process)
+bool endsWell(pid_t process, double &peakKib)
 {
     int status = 0;
-    while (waitpid(process, &status, 0) < 0) {
+    rusage usage = {};
+    while (wait4(process, &status, 0, &usage) < 0) {
         if (errno != EINTR)
             return false;
     }
+    peakKib = double(usage.ru_maxrss);
     return WIFEXITED(status) && WEXITSTATUS(status) == 0;
 }
 
@@ -69,7 +72,7 @@ ProcessRun runProcess(const QStringList &command, const QString &outputFile)
     const auto start = std::chrono::steady_clock::now();
     run.isGood = posix_spawnp(&process, arguments[0], redirection.actions(), nullptr,
                               arguments.data(), environ) == 0 &&
-                 endsWell(process);
+                 endsWell(process, run.peakKib);
     run.seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
     return run;
 }

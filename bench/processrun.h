@@ -11,6 +11,7 @@ struct ProcessRun
 {
     bool isGood = false;  ///< it ran and ended with status 0
     double seconds = 0.0; ///< wall time from before it was started until it had ended
+    double peakKib = 0.0; ///< the most memory that it had
 };
 
 /** Starts a program, found in PATH, and waits for its end. Its output goes to a file, by default

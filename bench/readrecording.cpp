@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Quellfern
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "processfigures.h"
-#include "walker.h"
+#include "recordingwalker.h"
 
 #include <QFile>
 #include <QList>
@@ -17,7 +17,7 @@ namespace {
 
 int samplesAndFacts(const QString &fileName)
 {
-    const std::unique_ptr<ParserObject> walker = walkRecording(fileName);
+    const std::unique_ptr<ParserObject> walker = createWalker(fileName);
     QList<GpsData> samples;
     GpsData sample;
     for (int i = 0; walker->getGpsData(i, sample); ++i)

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "sampleloops.h"
 
-#include "walker.h"
+#include "recordingwalker.h"
 
 #include <benchmark/benchmark.h>
 
@@ -16,7 +16,7 @@
 
 int decodeAll(const BenchRecording &recording, const std::function<void()> &betweenThem)
 {
-    const std::unique_ptr<ParserObject> walker = walkRecording(recording.fileName);
+    const std::unique_ptr<ParserObject> walker = createWalker(recording.fileName);
     if (betweenThem)
         betweenThem();
     GpsData sample;

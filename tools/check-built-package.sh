@@ -98,10 +98,13 @@ done
 lintian --allow-root --fail-on error,warning "$package"
 dpkg-deb -x "$package" "$unpacked"
 check_hardening "$unpacked/usr/lib/talvor-player/talvor-player"
+check_hardening "$unpacked/usr/bin/talvor-telemetry"
 desktop-file-validate "$unpacked"/usr/share/applications/*.desktop
 quietly appstreamcli validate --no-net "$unpacked"/usr/share/metainfo/*.xml
 quietly appstreamcli validate-tree --no-net "$unpacked"
-quietly env LC_ALL=C.UTF-8 man --warnings -l "$unpacked"/usr/share/man/man1/*.gz
+for page in "$unpacked"/usr/share/man/man1/*.gz; do
+    quietly env LC_ALL=C.UTF-8 man --warnings -l "$page"
+done
 
 echo "== package: plays"
 stand_in_for_dependencies
@@ -109,6 +112,12 @@ play clip.mp4 "$unpacked/usr/bin/talvor-player"
 class=$(sed -n 's/^StartupWMClass=//p' "$unpacked"/usr/share/applications/*.desktop)
 grep -q "^WM_CLASS.*\"$class\"$" "$work/log.txt" ||
     fail "the desktop entry names the class $class: $(grep WM_CLASS "$work/log.txt")"
+
+echo "== package: reads without a display"
+"$unpacked/usr/bin/talvor-telemetry" --info "$work/clip.mp4" >"$work/said.txt" 2>&1 &&
+    fail "talvor-telemetry finds telemetry where there is none"
+grep -q '^  Container *MP4$' "$work/said.txt" ||
+    fail "talvor-telemetry does not read a recording: $(cat "$work/said.txt")"
 
 echo "== installation"
 install_and_uninstall "$prefix" play

@@ -19,7 +19,7 @@ umask 022 # the folders of the package are for everybody to read
 # Links that the package carries lead to what the packages of the system bring.
 configure release -D FFMPEG_EXECUTABLE=/usr/bin/ffmpeg \
     -D LEAFLET_DIR=/usr/share/javascript/leaflet "$@"
-cmake --build --preset release --target talvor-player papers
+cmake --build --preset release --target talvor-player talvor-telemetry papers
 rm -f build/package/*.deb
 cpack --preset deb >build/log.txt 2>&1 ||
     { cat build/log.txt >&2; fail "making the package failed"; }
