@@ -307,7 +307,10 @@ void MainWindows::onRecordingEnded()
 {
     if (mIsStopped || mPendingStart->row())
         return;
-    nextClicked();
+    // What is wrong with the last one stays to be read. It has been stopped before.
+    const bool hasFailed = mUi->wgt_PlayArea->mainPlayer()->loader()->hasFailed();
+    if (!hasFailed || mPlaylistModel->getNextDataByCurrentUrl(currentUrl()))
+        nextClicked();
 }
 
 void MainWindows::onKeyPressEvent(QKeyEvent *event)

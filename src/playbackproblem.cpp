@@ -137,8 +137,8 @@ QString PlaybackProblem::text(const RowData &row, const PlaybackFailure &failure
     const bool isForeignCoding = !coding.isEmpty() && !isKnownName(coding);
     if (package.isEmpty() || isForeignCoding)
         return missing;
-    //: %1 is one sentence, %2 is the name of a package.
-    return tr("%1 The package %2 brings it.").arg(missing, package);
+    //: %1 is the name of a package, which brings the missing decoder.
+    return missing + QLatin1Char('\n') + tr("The package %1 brings it.").arg(package);
 }
 
 QString PlaybackProblem::codingName(const QByteArray &fourCharacterCode)

@@ -44,7 +44,7 @@ public:
     /** What the file is now goes before what it was when it was walked. */
     static Reason reason(const RecordingCondition &condition, const PlaybackFailure &failure);
 
-    /** The reason as one or two sentences in the user's language. */
+    /** The reason as one or two lines in the user's language. */
     static QString text(const RowData &row, const PlaybackFailure &failure);
 
     /** What people call the coding with this four-character code, in any case; the code itself for

@@ -283,23 +283,19 @@ void tst_PlaybackNotices::tellsWhatIsWrong()
         QCOMPARE(mkfifo(QFile::encodeName(path(name)).constData(), 0600), 0);
     else if (!name.endsWith(QLatin1String("avi")))
         write(name, content);
-    open({"whole.mp4", name});
-    QTRY_COMPARE(player()->state(), QMediaPlayer::PlayingState);
-    QVERIFY(!notice()->isShown());
-    if (name.startsWith(QLatin1String("gone")))
+    if (name.startsWith(QLatin1String("gone"))) {
+        open({"whole.mp4", name});
         QVERIFY(QFile::remove(path(name)));
-    click("btn_Next");
+        click("btn_Next");
+    } else {
+        open({name});
+    }
     QTRY_COMPARE(notice()->heading(), name);
     QVERIFY2(notice()->text().startsWith(text), qPrintable(notice()->text()));
     QVERIFY(!notice()->isProgress());
     QCOMPARE(area()->state(), QMediaPlayer::StoppedState);
     QTRY_VERIFY(area()->mainPlayer()->rect().contains(notice()->geometry()));
     QVERIFY(!notice()->geometry().isEmpty());
-
-    click("btn_Previous");
-    QVERIFY(!notice()->isShown());
-    QTRY_VERIFY(player()->position() > 0);
-    QVERIFY(!notice()->isShown());
 }
 
 /** The worker may tell what the coding is, or what is wrong, when the player has given up. */
@@ -332,6 +328,7 @@ void tst_PlaybackNotices::listGoesOn()
     QTRY_COMPARE(due.size(), 4);
     QCOMPARE(notice()->heading(), QStringLiteral("sound.avi"));
     click("btn_Previous");
+    QVERIFY(!notice()->isShown());
     QTRY_VERIFY(player()->position() > 0);
     QCOMPARE(area()->mainRow()->id, 2);
 }

@@ -227,9 +227,9 @@
         <translation>没有安装 %1 的解码器。</translation>
     </message>
     <message>
-        <source>%1 The package %2 brings it.</source>
-        <extracomment>%1 is one sentence, %2 is the name of a package.</extracomment>
-        <translation>%1软件包 %2 中包含该解码器。</translation>
+        <source>The package %1 brings it.</source>
+        <extracomment>%1 is the name of a package, which brings the missing decoder.</extracomment>
+        <translation>软件包 %1 中包含该解码器。</translation>
     </message>
 </context>
 <context>

@@ -227,9 +227,9 @@
         <translation>Aucun décodeur n’est installé pour %1.</translation>
     </message>
     <message>
-        <source>%1 The package %2 brings it.</source>
-        <extracomment>%1 is one sentence, %2 is the name of a package.</extracomment>
-        <translation>%1 Le paquet %2 le fournit.</translation>
+        <source>The package %1 brings it.</source>
+        <extracomment>%1 is the name of a package, which brings the missing decoder.</extracomment>
+        <translation>Le paquet %1 le fournit.</translation>
     </message>
 </context>
 <context>

@@ -227,9 +227,9 @@
         <translation>Für %1 ist kein Decoder installiert.</translation>
     </message>
     <message>
-        <source>%1 The package %2 brings it.</source>
-        <extracomment>%1 is one sentence, %2 is the name of a package.</extracomment>
-        <translation>%1 Er ist im Paket %2 enthalten.</translation>
+        <source>The package %1 brings it.</source>
+        <extracomment>%1 is the name of a package, which brings the missing decoder.</extracomment>
+        <translation>Er ist im Paket %1 enthalten.</translation>
     </message>
 </context>
 <context>

@@ -227,9 +227,9 @@
         <translation>%1 のデコーダーがインストールされていません。</translation>
     </message>
     <message>
-        <source>%1 The package %2 brings it.</source>
-        <extracomment>%1 is one sentence, %2 is the name of a package.</extracomment>
-        <translation>%1パッケージ %2 に含まれています。</translation>
+        <source>The package %1 brings it.</source>
+        <extracomment>%1 is the name of a package, which brings the missing decoder.</extracomment>
+        <translation>パッケージ %1 に含まれています。</translation>
     </message>
 </context>
 <context>

@@ -227,9 +227,9 @@
         <translation>%1 디코더가 설치되어 있지 않습니다.</translation>
     </message>
     <message>
-        <source>%1 The package %2 brings it.</source>
-        <extracomment>%1 is one sentence, %2 is the name of a package.</extracomment>
-        <translation>%1 %2 패키지에 들어 있습니다.</translation>
+        <source>The package %1 brings it.</source>
+        <extracomment>%1 is the name of a package, which brings the missing decoder.</extracomment>
+        <translation>%1 패키지에 들어 있습니다.</translation>
     </message>
 </context>
 <context>

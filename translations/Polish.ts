@@ -227,9 +227,9 @@
         <translation>Nie zainstalowano dekodera %1.</translation>
     </message>
     <message>
-        <source>%1 The package %2 brings it.</source>
-        <extracomment>%1 is one sentence, %2 is the name of a package.</extracomment>
-        <translation>%1 Zawiera go pakiet %2.</translation>
+        <source>The package %1 brings it.</source>
+        <extracomment>%1 is the name of a package, which brings the missing decoder.</extracomment>
+        <translation>Zawiera go pakiet %1.</translation>
     </message>
 </context>
 <context>

@@ -227,9 +227,9 @@
         <translation>Não está instalado nenhum descodificador para %1.</translation>
     </message>
     <message>
-        <source>%1 The package %2 brings it.</source>
-        <extracomment>%1 is one sentence, %2 is the name of a package.</extracomment>
-        <translation>%1 O pacote %2 contém-no.</translation>
+        <source>The package %1 brings it.</source>
+        <extracomment>%1 is the name of a package, which brings the missing decoder.</extracomment>
+        <translation>O pacote %1 contém-no.</translation>
     </message>
 </context>
 <context>

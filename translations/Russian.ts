@@ -227,9 +227,9 @@
         <translation>Для %1 не установлен декодер.</translation>
     </message>
     <message>
-        <source>%1 The package %2 brings it.</source>
-        <extracomment>%1 is one sentence, %2 is the name of a package.</extracomment>
-        <translation>%1 Он входит в пакет %2.</translation>
+        <source>The package %1 brings it.</source>
+        <extracomment>%1 is the name of a package, which brings the missing decoder.</extracomment>
+        <translation>Он входит в пакет %1.</translation>
     </message>
 </context>
 <context>
