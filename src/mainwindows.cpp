@@ -15,6 +15,8 @@
 #include "mediaurl.h"
 #include "movefilter.h"
 #include "pendingstart.h"
+#include "playbacknotices.h"
+#include "playlistadvance.h"
 #include "playlistmodel.h"
 #include "rowdata.h"
 #include "screenshotnotice.h"
@@ -29,9 +31,6 @@
 #include <QTimer>
 
 namespace {
-
-// So long a recording that cannot be played holds up the list.
-constexpr int UnplayablePauseMs = 4000;
 
 QFont pixelFont(const QString &family, int pixelSize, QFont::Weight weight)
 {
@@ -111,8 +110,8 @@ void MainWindows::playByData(const RowData *row)
     mUi->tbl_PlayListView->selectRow(row->id);
     mUi->wgt_PlayArea->stop();
     mIsStopped = false;
-    mCameByItself = false;
     giveUpRound();
+    mNotices->begin();
     mPendingStart->request(row);
     setTitleFileName(row->url.fileName(QUrl::FullyDecoded));
     mDisplays->clearRecording();
@@ -175,6 +174,7 @@ void MainWindows::onStop()
 {
     mIsStopped = true;
     giveUpRound();
+    mNotices->end();
     mDisplays->clearGauges();
     mUi->wgt_PlayArea->stop();
     mUi->wgt_ControlPanel->reinit();
@@ -197,6 +197,7 @@ void MainWindows::playClicked()
 
 void MainWindows::previousClicked()
 {
+    mAdvance->giveUp();
     playByData(mPlaylistModel->getPreviousDataByCurrentUrl(currentUrl()));
 }
 
@@ -206,6 +207,7 @@ void MainWindows::nextClicked()
     // The last whole second has begun, but the recording goes on to its end.
     if (mIsReportingPosition)
         return;
+    mAdvance->giveUp();
     if (const RowData *next = mPlaylistModel->getNextDataByCurrentUrl(currentUrl()))
         playByData(next);
     else
@@ -296,27 +298,20 @@ void MainWindows::onRecordingDue(const RowData *row)
     const int rowId = row->id;
     const int round = mRound;
     clearAll();
-    if (round == mRound)
-        mPlaylistModel->updateAllGpsData(rowId);
+    if (round != mRound)
+        return;
+    mNotices->awaitTelemetry();
+    mPlaylistModel->updateAllGpsData(rowId);
 }
 
 void MainWindows::onRecordingEnded()
 {
     if (mIsStopped || mPendingStart->row())
         return;
-    nextClicked();
-    mCameByItself = true;
-}
-
-void MainWindows::onRecordingFailed()
-{
-    if (!mCameByItself)
-        return;
-    const int round = mRound;
-    QTimer::singleShot(UnplayablePauseMs, this, [this, round] {
-        if (round == mRound)
-            onRecordingEnded();
-    });
+    // What is wrong with the last one stays to be read. It has been stopped before.
+    const bool hasFailed = mUi->wgt_PlayArea->mainPlayer()->loader()->hasFailed();
+    if (!hasFailed || mPlaylistModel->getNextDataByCurrentUrl(currentUrl()))
+        nextClicked();
 }
 
 void MainWindows::onKeyPressEvent(QKeyEvent *event)
@@ -388,6 +383,9 @@ void MainWindows::setupPlayback()
                                    mUi->gView_GyroChart, mUi->wgt_MapView});
     mPendingStart = new PendingStart(mUi->wgt_PlayArea, this);
     connect(mPendingStart, &PendingStart::due, this, &MainWindows::onRecordingDue);
+    mNotices = new PlaybackNotices(mUi->wgt_PlayArea, this);
+    mAdvance = new PlaylistAdvance(mUi->wgt_PlayArea, this);
+    connect(mAdvance, &PlaylistAdvance::due, this, &MainWindows::onRecordingEnded);
 }
 
 void MainWindows::connectControlPanel()
@@ -407,6 +405,7 @@ void MainWindows::connectControlPanel()
     connect(panel, &ControlPanel::play, this, &MainWindows::playClicked);
     connect(panel, &ControlPanel::previous, this, &MainWindows::previousClicked);
     connect(panel, &ControlPanel::next, this, &MainWindows::nextClicked);
+    connect(panel, &ControlPanel::pause, mAdvance, &PlaylistAdvance::giveUp);
 }
 
 void MainWindows::connectPlayArea()
@@ -422,10 +421,6 @@ void MainWindows::connectPlayArea()
     connect(area, &PlayAreaManager::fullScreenChanged, this, &MainWindows::onFullScreenChanged);
     connect(area, &PlayAreaManager::dropFile, this, &MainWindows::onDropFile);
     connect(area, &PlayAreaManager::stateChanged, this, &MainWindows::onPlaybackStateChanged);
-    // Later, because the media backend is in the middle of its own handling of the end.
-    connect(area, &PlayAreaManager::ended, this, &MainWindows::onRecordingEnded,
-            Qt::QueuedConnection);
-    connect(area, &PlayAreaManager::failed, this, &MainWindows::onRecordingFailed);
     const auto *notice = new ScreenshotNotice(mUi->lbl_FileName);
     connect(panel, &ControlPanel::screenshot, notice, &ScreenshotNotice::begin);
     connect(area, &PlayAreaManager::screenshotDone, notice, &ScreenshotNotice::tell);
@@ -438,6 +433,7 @@ void MainWindows::connectPlaylistAndSettings()
     connect(mPlaylistModel, &PlaylistModel::gpsDataChanged, this, &MainWindows::onGpsDataChanged);
     connect(mPlaylistModel, &PlaylistModel::allGpsDataParserFinished, this,
             &MainWindows::onAllGpsDataParserFinished);
+    connect(mPlaylistModel, &PlaylistModel::dataChanged, mNotices, &PlaybackNotices::refresh);
     connect(Configuration::GetInstance(), &Configuration::updateLanguage, this,
             &MainWindows::onUpdateLanguage);
     new MapReload(mUi->wgt_MapView); // first: a page of another provider makes its own needless
@@ -480,6 +476,7 @@ QUrl MainWindows::currentUrl() const
 void MainWindows::giveUpRound()
 {
     ++mRound;
+    mAdvance->giveUp();
     mDisplays->giveUpFilling();
     mFirstSample.clear();
 }

@@ -13,6 +13,8 @@
 #include <memory>
 
 class PendingStart;
+class PlaybackNotices;
+class PlaylistAdvance;
 class PlaylistModel;
 class QKeyEvent;
 class QUrl;
@@ -104,7 +106,6 @@ private:
     void onRecordingDue(const RowData *row);
     void onPlaybackStateChanged(QMediaPlayer::State state);
     void onRecordingEnded();
-    void onRecordingFailed();
     bool isPlayingRow(int rowId) const;
     QUrl currentUrl() const;
     void giveUpRound();
@@ -114,10 +115,11 @@ private:
     WindowGeometry mGeometry{this};
     std::unique_ptr<TelemetryDisplays> mDisplays;
     PendingStart *mPendingStart = nullptr; // a child
+    PlaybackNotices *mNotices = nullptr;   // a child
+    PlaylistAdvance *mAdvance = nullptr;   // a child
     Shortcuts *mShortcuts = nullptr;       // a child
     int mRound = 0;                        // starts and stops: those before are given up
-    bool mIsStopped = false;    // or closed, and no start since: what is delivered now is too late
-    bool mCameByItself = false; // the recording, because the one before it had ended
+    bool mIsStopped = false; // or closed, and no start since: what is delivered now is too late
     bool mIsReportingPosition = false;
     QList<GpsData> mFirstSample; // to be shown when playback begins, if there is one
 };

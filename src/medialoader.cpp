@@ -3,9 +3,9 @@
 #include "medialoader.h"
 
 #include "mediaurl.h"
-#include "recordingcontainer.h"
 
 #include <QDebug>
+#include <QMediaMetaData>
 
 namespace {
 
@@ -16,27 +16,27 @@ constexpr int PatienceMs = 3000;
 // The backend may still be on its way to playing for so long.
 constexpr int StateChangeMs = 300;
 
-/** Why the media must not reach the player; empty when they may. What is not the plain name of a
- *  file may lead a player elsewhere than to the file that was looked at. */
-QString obstacleTo(const QUrl &url)
+/** Whether this is the plain name of a file. Anything else may lead a player elsewhere than to the
+ *  file that was looked at. */
+bool isPlainFile(const QUrl &url)
 {
-    const bool isPlainFile =
-        url.isLocalFile() && url.host().isEmpty() && !url.hasQuery() && !url.hasFragment();
-    return isPlainFile ? RecordingContainer(url.toLocalFile()).obstacle()
-                       : QStringLiteral("not a local file");
+    return url.isLocalFile() && url.host().isEmpty() && !url.hasQuery() && !url.hasFragment();
 }
 
-/** The media, or none when these must not be played. */
-QMediaContent playable(const QMediaContent &media)
+/** Whether, and why not, the media may reach the player. */
+RecordingContainer::Verdict verdictOn(const QMediaContent &media)
 {
-    if (media.isNull())
-        return media;
     const QUrl url = mediaUrl(media);
-    const QString obstacle = obstacleTo(url);
-    if (obstacle.isEmpty())
-        return media;
-    qDebug() << "not played:" << url.toString() << obstacle;
-    return QMediaContent();
+    QString obstacle = QStringLiteral("not a local file");
+    RecordingContainer::Verdict verdict = RecordingContainer::Unreadable;
+    if (isPlainFile(url)) {
+        RecordingContainer container(url.toLocalFile());
+        obstacle = container.obstacle();
+        verdict = container.verdict();
+    }
+    if (!obstacle.isEmpty())
+        qDebug() << "not played:" << url.toString() << obstacle;
+    return verdict;
 }
 
 } // namespace
@@ -50,6 +50,9 @@ MediaLoader::MediaLoader(QMediaPlayer *player, QObject *parent) : QObject(parent
     connect(&mRestart, &QTimer::timeout, this, &MediaLoader::goOn);
     mPatience.setSingleShot(true);
     connect(&mPatience, &QTimer::timeout, this, &MediaLoader::giveUp);
+    mGiveUpPictures.setSingleShot(true);
+    mGiveUpPictures.setInterval(0);
+    connect(&mGiveUpPictures, &QTimer::timeout, this, &MediaLoader::giveUpPictures);
     connect(mPlayer, &QMediaPlayer::mediaStatusChanged, this, &MediaLoader::onMediaStatusChanged);
 }
 
@@ -57,7 +60,11 @@ void MediaLoader::load(const QMediaContent &media)
 {
     cancelTimers();
     mHasFailed = false;
-    mPlayer->setMedia(playable(media));
+    mFailure = PlaybackFailure();
+    if (!media.isNull())
+        mFailure.verdict = verdictOn(media);
+    const bool isPlayable = mFailure.verdict == RecordingContainer::Complete;
+    mPlayer->setMedia(isPlayable ? media : QMediaContent());
     if (mPlayer->media().isNull())
         mPatience.start(0);
 }
@@ -78,6 +85,8 @@ void MediaLoader::play()
     mPlayer->play();
     if (isLoading())
         mPatience.start(PatienceMs);
+    else if (lacksDecoder())
+        mGiveUpPictures.start();
 }
 
 void MediaLoader::pause()
@@ -93,6 +102,7 @@ void MediaLoader::stop()
 {
     mRestart.stop();
     mPatience.stop();
+    mGiveUpPictures.stop();
     if (mPlayer->state() == QMediaPlayer::PlayingState && !mHasFailed) {
         mPlayer->pause();
         if (mSincePlay.elapsed() < StateChangeMs)
@@ -115,6 +125,7 @@ void MediaLoader::cancelTimers()
     mStopAgain.stop();
     mRestart.stop();
     mPatience.stop();
+    mGiveUpPictures.stop();
 }
 
 void MediaLoader::restart()
@@ -152,13 +163,37 @@ void MediaLoader::onMediaStatusChanged(QMediaPlayer::MediaStatus status)
     if (status == QMediaPlayer::LoadingMedia)
         return;
     mPatience.stop();
+    const bool isEnd = status == QMediaPlayer::EndOfMedia;
     if (status == QMediaPlayer::InvalidMedia)
         fail();
-    else if (status == QMediaPlayer::EndOfMedia)
+    else if (isLoaded() && (isEnd ? lacksPictures() : lacksDecoder()))
+        mGiveUpPictures.start();
+    else if (isEnd)
         emit ended();
     else if (isLoaded())
         emit loaded();
     emit settled();
+}
+
+/** The backend would play the sound beside a black picture. That of a sound it cannot decode is the
+ *  same error, but with pictures. */
+bool MediaLoader::lacksDecoder() const
+{
+    return mPlayer->error() == QMediaPlayer::FormatError && !mPlayer->isVideoAvailable();
+}
+
+/** Whether there are pictures, but none was decoded up to now: each brings its size. */
+bool MediaLoader::lacksPictures() const
+{
+    return mPlayer->isVideoAvailable() && !mPlayer->metaData(QMediaMetaData::Resolution).isValid();
+}
+
+void MediaLoader::giveUpPictures()
+{
+    mFailure.error = mPlayer->error();
+    mFailure.endedWithoutPicture = mPlayer->isVideoAvailable();
+    unload();
+    fail();
 }
 
 void MediaLoader::goOn()
@@ -181,5 +216,7 @@ void MediaLoader::fail()
     if (mHasFailed)
         return;
     mHasFailed = true;
+    if (mPlayer->error() != QMediaPlayer::NoError)
+        mFailure.error = mPlayer->error();
     emit failed();
 }

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "playbackproblem.h"
+
 #include <QElapsedTimer>
 #include <QMediaPlayer>
 #include <QObject>
@@ -48,10 +50,12 @@ public:
     /** Whether there is a recording that can be shown. */
     bool isLoaded() const;
     bool hasFailed() const { return mHasFailed; }
+    /** What is known of a failure, once there is one. */
+    const PlaybackFailure &failure() const { return mFailure; }
 
 signals:
     void loaded();
-    /** The recording cannot be played. The player has been stopped. */
+    /** The recording cannot be played, its sound alone apart. The player has been stopped. */
     void failed();
     /** The recording has been played to its end. */
     void ended();
@@ -63,6 +67,9 @@ private:
     void stopAgain();
     void cancelTimers();
     void giveUp();
+    bool lacksDecoder() const;
+    bool lacksPictures() const;
+    void giveUpPictures();
     void goOn();
     void fail();
 
@@ -72,6 +79,8 @@ private:
     QTimer mRestart;
     QMediaContent mRestartMedia;
     qint64 mRestartMs = 0;
-    QTimer mPatience; // with a recording that is played before it has been loaded
+    QTimer mPatience;       // with a recording that is played before it has been loaded
+    QTimer mGiveUpPictures; // when the backend is done with telling of them
     bool mHasFailed = false;
+    PlaybackFailure mFailure;
 };

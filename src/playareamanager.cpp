@@ -472,6 +472,7 @@ void PlayAreaManager::createSecond()
     connect(player, &QMediaPlayer::positionChanged, this, &PlayAreaManager::noteSecondPosition);
     connect(mSecond->loader(), &MediaLoader::ended, this, &PlayAreaManager::onSecondEnded);
     connect(mSecond->loader(), &MediaLoader::settled, this, &PlayAreaManager::noteSettled);
+    connect(mSecond->loader(), &MediaLoader::failed, this, &PlayAreaManager::secondFailed);
     relayKeysAndFullScreen(mSecond);
 }
 
@@ -615,7 +616,7 @@ void PlayAreaManager::seekSecond(qint64 positionMs)
     second->setPosition(positionMs);
     // After its end it is stopped and would show nothing beside a paused main recording.
     if (second->state() == QMediaPlayer::StoppedState && state() == QMediaPlayer::PausedState)
-        second->pause();
+        mSecond->loader()->pause();
 }
 
 void PlayAreaManager::holdSyncFor(qint64 settleMs)

@@ -61,6 +61,8 @@ public:
 
     /** The row of the main recording, null until one has been set. */
     const RowData *mainRow() const { return mMainRow; }
+    /** The row of the second player's recording, null until one has been set. */
+    const RowData *relatedRow() const { return mRelatedRow; }
     /** Media, state and volume (0 to 100, linear) of the main player. The media are those of the
      *  main row even if the player has been given none. */
     QMediaContent media() const;
@@ -93,6 +95,8 @@ signals:
     void ended();
     /** The main recording cannot be played. Nothing plays then. */
     void failed();
+    /** The related recording cannot be played. The main one is, without it. */
+    void secondFailed();
     /** isSettled() has become true. */
     void settled();
 

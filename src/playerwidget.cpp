@@ -4,6 +4,7 @@
 
 #include "capturethread.h"
 #include "mediaurl.h"
+#include "picturenotice.h"
 #include "windowhandover.h"
 
 #include <QDebug>
@@ -19,7 +20,7 @@ constexpr int ResizeSettleMs = 100;
 
 } // namespace
 
-PlayerWidget::PlayerWidget(QWidget *parent) : QVideoWidget(parent)
+PlayerWidget::PlayerWidget(QWidget *parent) : QVideoWidget(parent), mNotice(new PictureNotice(this))
 {
     mPlayer.setAudioRole(QAudio::VideoRole);
     mPlayer.setVideoOutput(this);

@@ -9,6 +9,7 @@
 #include <QVideoWidget>
 
 class CaptureThread;
+class PictureNotice;
 class QKeyEvent;
 struct ScreenshotResult;
 
@@ -34,6 +35,8 @@ public:
     /** What loads, plays and stops recordings in the embedded player; owned by the widget. */
     MediaLoader *loader() { return &mLoader; }
     const MediaLoader *loader() const { return &mLoader; }
+    /** What is told over the picture; a child of the widget. */
+    PictureNotice *notice() const { return mNotice; }
 
     /** Whether the paused picture has been made anew for another size since the pause: then it is
      *  that of the player's position. */
@@ -82,7 +85,8 @@ private:
 
     QMediaPlayer mPlayer;
     MediaLoader mLoader{&mPlayer};
-    QTimer mFitTimer; // from the last change of the size on
+    PictureNotice *mNotice = nullptr; // a child
+    QTimer mFitTimer;                 // from the last change of the size on
     bool mIsRefitted = false;
     // Deleted by hand when it has finished; one that still runs outlives the widget.
     CaptureThread *mCaptureThread = nullptr;

@@ -60,6 +60,12 @@ bool hasForeignMarks(const QByteArray &head)
            lower.contains(WideMark);
 }
 
+/** A camera that lost its power leaves files behind whose room was reserved, but never written. */
+bool isBlank(const QByteArray &head)
+{
+    return head.count('\0') == head.size();
+}
+
 bool isMpegTransport(const QByteArray &head)
 {
     for (const int packetSize : MpegPacketSizes) {
@@ -106,21 +112,33 @@ RecordingContainer::RecordingContainer(const QString &fileName)
 QString RecordingContainer::obstacle()
 {
     if (!mFile.openRegular())
-        return QStringLiteral("not a readable regular file");
+        return found(Unreadable, QStringLiteral("not a readable regular file"));
+    if (mFile.size() == 0)
+        return found(Empty, QStringLiteral("an empty file"));
     const int headSize = int(std::min<qint64>(mFile.size(), HeadSize));
     const QByteArray head(mFile.bytesAt(0, headSize), headSize);
     if (hasForeignMarks(head))
-        return QStringLiteral("may be a playlist or a manifest");
+        return found(Foreign, QStringLiteral("may be a playlist or a manifest"));
+    if (isBlank(head))
+        return found(Damaged, QStringLiteral("begins with nothing but zeros"));
     const QByteArray type = head.mid(4, 4);
     const auto isFirst = [&](const char *box) { return type == box; };
     if (!std::any_of(FirstBoxes.begin(), FirstBoxes.end(), isFirst))
-        return isOtherContainer(head) ? QString() : QStringLiteral("not a known container");
+        return isOtherContainer(head) ? QString()
+                                      : found(Foreign, QStringLiteral("not a known container"));
     // Such a size is beyond 150 MB: nothing but pictures and sound is as large. A cut recording
     // without what follows them cannot be played.
     const bool looksLikeText = std::all_of(head.begin(), head.begin() + 4, isText);
     if (looksLikeText && (type != "mdat" || boxAt(0, ~quint64(0)).end >= quint64(mFile.size())))
-        return QStringLiteral("a text that looks like a box");
+        return found(type == "mdat" ? Damaged : Foreign,
+                     QStringLiteral("a text that looks like a box"));
     return obstacleInMovie();
+}
+
+QString RecordingContainer::found(Verdict verdict, const QString &obstacle)
+{
+    mVerdict = verdict;
+    return obstacle;
 }
 
 RecordingContainer::Box RecordingContainer::boxAt(quint64 offset, quint64 end)
@@ -146,9 +164,9 @@ QString RecordingContainer::obstacleInMovie()
     for (quint64 offset = 0; offset + BoxHeaderSize <= end;) {
         const Box box = boxAt(offset, end);
         if (!box.isSound(offset))
-            return QStringLiteral("a box that is smaller than its header");
+            return found(Damaged, QStringLiteral("a box that is smaller than its header"));
         if (--mBoxesLeft < 0)
-            return QStringLiteral("too many boxes");
+            return found(Damaged, QStringLiteral("too many boxes"));
         if (box.type == "moov")
             return obstacleInBoxes(box.payload, box.end, 0);
         offset = box.end;
@@ -161,14 +179,14 @@ QString RecordingContainer::obstacleInBoxes(quint64 offset, quint64 end, int dep
     while (offset + BoxHeaderSize <= end) {
         const Box box = boxAt(offset, end);
         if (--mBoxesLeft < 0)
-            return QStringLiteral("too many boxes");
+            return found(Damaged, QStringLiteral("too many boxes"));
         if (!box.isSound(offset))
             return QString();
         QString obstacle;
         if (depth == 0 && box.type == "rmra")
-            obstacle = QStringLiteral("a movie that refers to another one");
+            obstacle = found(Foreign, QStringLiteral("a movie that refers to another one"));
         else if (depth == 0 && box.type == "cmov")
-            obstacle = QStringLiteral("a movie whose header is compressed");
+            obstacle = found(Foreign, QStringLiteral("a movie whose header is compressed"));
         else if (depth == TrackPathLength && box.type == "stsd")
             obstacle = obstacleInDescriptions(box.payload + DescriptionsHeaderSize, box.end);
         else if (depth < TrackPathLength && box.type == TrackPath[depth])
@@ -186,9 +204,9 @@ QString RecordingContainer::obstacleInDescriptions(quint64 offset, quint64 end)
     while (offset + BoxHeaderSize <= end) {
         const Box box = boxAt(offset, end);
         if (--mBoxesLeft < 0)
-            return QStringLiteral("too many boxes");
+            return found(Damaged, QStringLiteral("too many boxes"));
         if (box.type == "rtsp")
-            return QStringLiteral("a track that refers to a server");
+            return found(Foreign, QStringLiteral("a track that refers to a server"));
         if (!box.isSound(offset))
             return QString();
         offset = box.end;

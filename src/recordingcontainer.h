@@ -17,12 +17,22 @@
 class RecordingContainer
 {
 public:
+    enum Verdict
+    {
+        Complete,   ///< in itself; whether it can be decoded is not looked at
+        Unreadable, ///< not there, or not a readable regular file
+        Empty,      ///< a file of no bytes
+        Foreign,    ///< not a known container, or one that may refer to something else
+        Damaged     ///< a container whose beginning or boxes are broken
+    };
+
     explicit RecordingContainer(const QString &fileName);
 
-    /** Why the file must not be played, for the log: it is not there, not a readable regular file,
-     *  not a known container, or one that may refer to something else. Empty for a recording that
-     *  is complete in itself; whether it can be decoded is not looked at. */
+    /** Why the file must not be played, for the log. Empty for a recording that is complete in
+     *  itself. */
     QString obstacle();
+    /** The same for a program; Complete until obstacle() has been asked. */
+    Verdict verdict() const { return mVerdict; }
 
 private:
     struct Box;
@@ -32,6 +42,9 @@ private:
     QString obstacleInBoxes(quint64 offset, quint64 end, int depth);
     QString obstacleInDescriptions(quint64 offset, quint64 end);
 
+    QString found(Verdict verdict, const QString &obstacle);
+
     RecordingFile mFile;
     int mBoxesLeft;
+    Verdict mVerdict = Complete;
 };

@@ -110,7 +110,6 @@ private slots:
     void stoppingWhileTheNextOneWaits();
     void startsDoNotNest();
     void manyDroppedLoadTheLastOnly();
-    void unplayableOnesArePassed();
     void showsTheFirstSecondAndForgetsTheLastRecording();
     void stopResets();
     void closingWhileTelemetryArrives_data();
@@ -667,24 +666,6 @@ void tst_Program::manyDroppedLoadTheLastOnly()
     QCOMPARE(text("lbl_FileName"), QStringLiteral("drop199.mp4"));
     QTRY_VERIFY(player()->position() > 0);
     QCOMPARE(loaded.names(), QStringList({"drop199.mp4"}));
-}
-
-void tst_Program::unplayableOnesArePassed()
-{
-    openArguments({path("one.mp4"), path("letter.mp4"), path("three.mp4")});
-    QTRY_COMPARE(text("lbl_FileName"), QStringLiteral("letter.mp4"));
-    QTRY_VERIFY(area()->mainPlayer()->loader()->hasFailed());
-    // One that the user has chosen stays, though it was to be passed before.
-    click("btn_Next");
-    click("btn_Previous");
-    QTRY_VERIFY(area()->mainPlayer()->loader()->hasFailed());
-    QTest::qWait(4500);
-    QCOMPARE(text("lbl_FileName"), QStringLiteral("letter.mp4"));
-
-    click("btn_Previous");
-    QTRY_COMPARE(text("lbl_FileName"), QStringLiteral("letter.mp4"));
-    QTRY_COMPARE(text("lbl_FileName"), QStringLiteral("three.mp4"));
-    QTRY_VERIFY(player()->position() > 0);
 }
 
 void tst_Program::showsTheFirstSecondAndForgetsTheLastRecording()

@@ -193,6 +193,57 @@
     </message>
 </context>
 <context>
+    <name>PlaybackNotices</name>
+    <message>
+        <source>Reading telemetry…</source>
+        <translation>正在读取遥测数据…</translation>
+    </message>
+    <message>
+        <source>This computer may be too slow for this recording.</source>
+        <translation>这台电脑播放此录像可能太慢。</translation>
+    </message>
+</context>
+<context>
+    <name>PlaybackProblem</name>
+    <message>
+        <source>The file is gone or cannot be read.</source>
+        <translation>文件已不存在或无法读取。</translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation>文件是空的。</translation>
+    </message>
+    <message>
+        <source>The file is not a video recording.</source>
+        <translation>该文件不是视频录像。</translation>
+    </message>
+    <message>
+        <source>The recording is damaged: its header is missing.</source>
+        <translation>录像已损坏：缺少文件头。</translation>
+    </message>
+    <message>
+        <source>The recording is damaged: it breaks off before its first picture.</source>
+        <translation>录像已损坏：在第一帧画面之前就中断了。</translation>
+    </message>
+    <message>
+        <source>The recording is damaged.</source>
+        <translation>录像已损坏。</translation>
+    </message>
+    <message>
+        <source>No decoder for its pictures is installed.</source>
+        <translation>没有安装可解码其画面的解码器。</translation>
+    </message>
+    <message>
+        <source>No decoder for %1 is installed.</source>
+        <translation>没有安装 %1 的解码器。</translation>
+    </message>
+    <message>
+        <source>The package %1 brings it.</source>
+        <extracomment>%1 is the name of a package, which brings the missing decoder.</extracomment>
+        <translation>软件包 %1 中包含该解码器。</translation>
+    </message>
+</context>
+<context>
     <name>PlaylistModel</name>
     <message>
         <source>File Name</source>

@@ -193,6 +193,57 @@
     </message>
 </context>
 <context>
+    <name>PlaybackNotices</name>
+    <message>
+        <source>Reading telemetry…</source>
+        <translation>正在讀取遙測資料…</translation>
+    </message>
+    <message>
+        <source>This computer may be too slow for this recording.</source>
+        <translation>這台電腦播放此錄影可能太慢。</translation>
+    </message>
+</context>
+<context>
+    <name>PlaybackProblem</name>
+    <message>
+        <source>The file is gone or cannot be read.</source>
+        <translation>檔案已不存在或無法讀取。</translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation>檔案是空的。</translation>
+    </message>
+    <message>
+        <source>The file is not a video recording.</source>
+        <translation>此檔案不是影片錄影。</translation>
+    </message>
+    <message>
+        <source>The recording is damaged: its header is missing.</source>
+        <translation>錄影已損壞：缺少檔頭。</translation>
+    </message>
+    <message>
+        <source>The recording is damaged: it breaks off before its first picture.</source>
+        <translation>錄影已損壞：在第一個畫面之前就中斷了。</translation>
+    </message>
+    <message>
+        <source>The recording is damaged.</source>
+        <translation>錄影已損壞。</translation>
+    </message>
+    <message>
+        <source>No decoder for its pictures is installed.</source>
+        <translation>未安裝可解碼其畫面的解碼器。</translation>
+    </message>
+    <message>
+        <source>No decoder for %1 is installed.</source>
+        <translation>未安裝 %1 的解碼器。</translation>
+    </message>
+    <message>
+        <source>The package %1 brings it.</source>
+        <extracomment>%1 is the name of a package, which brings the missing decoder.</extracomment>
+        <translation>套件 %1 中包含該解碼器。</translation>
+    </message>
+</context>
+<context>
     <name>PlaylistModel</name>
     <message>
         <source>File Name</source>

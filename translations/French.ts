@@ -193,6 +193,57 @@
     </message>
 </context>
 <context>
+    <name>PlaybackNotices</name>
+    <message>
+        <source>Reading telemetry…</source>
+        <translation>Lecture de la télémétrie…</translation>
+    </message>
+    <message>
+        <source>This computer may be too slow for this recording.</source>
+        <translation>Cet ordinateur est peut-être trop lent pour cet enregistrement.</translation>
+    </message>
+</context>
+<context>
+    <name>PlaybackProblem</name>
+    <message>
+        <source>The file is gone or cannot be read.</source>
+        <translation>Le fichier n’existe plus ou est illisible.</translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation>Le fichier est vide.</translation>
+    </message>
+    <message>
+        <source>The file is not a video recording.</source>
+        <translation>Le fichier n’est pas un enregistrement vidéo.</translation>
+    </message>
+    <message>
+        <source>The recording is damaged: its header is missing.</source>
+        <translation>L’enregistrement est endommagé : son en-tête manque.</translation>
+    </message>
+    <message>
+        <source>The recording is damaged: it breaks off before its first picture.</source>
+        <translation>L’enregistrement est endommagé : il s’interrompt avant la première image.</translation>
+    </message>
+    <message>
+        <source>The recording is damaged.</source>
+        <translation>L’enregistrement est endommagé.</translation>
+    </message>
+    <message>
+        <source>No decoder for its pictures is installed.</source>
+        <translation>Aucun décodeur n’est installé pour ses images.</translation>
+    </message>
+    <message>
+        <source>No decoder for %1 is installed.</source>
+        <translation>Aucun décodeur n’est installé pour %1.</translation>
+    </message>
+    <message>
+        <source>The package %1 brings it.</source>
+        <extracomment>%1 is the name of a package, which brings the missing decoder.</extracomment>
+        <translation>Le paquet %1 le fournit.</translation>
+    </message>
+</context>
+<context>
     <name>PlaylistModel</name>
     <message>
         <source>File Name</source>

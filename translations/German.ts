@@ -193,6 +193,57 @@
     </message>
 </context>
 <context>
+    <name>PlaybackNotices</name>
+    <message>
+        <source>Reading telemetry…</source>
+        <translation>Telemetrie wird gelesen …</translation>
+    </message>
+    <message>
+        <source>This computer may be too slow for this recording.</source>
+        <translation>Dieser Computer ist für diese Aufnahme möglicherweise zu langsam.</translation>
+    </message>
+</context>
+<context>
+    <name>PlaybackProblem</name>
+    <message>
+        <source>The file is gone or cannot be read.</source>
+        <translation>Die Datei ist nicht mehr da oder kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation>Die Datei ist leer.</translation>
+    </message>
+    <message>
+        <source>The file is not a video recording.</source>
+        <translation>Die Datei ist keine Videoaufnahme.</translation>
+    </message>
+    <message>
+        <source>The recording is damaged: its header is missing.</source>
+        <translation>Die Aufnahme ist beschädigt: Ihr Header fehlt.</translation>
+    </message>
+    <message>
+        <source>The recording is damaged: it breaks off before its first picture.</source>
+        <translation>Die Aufnahme ist beschädigt: Sie bricht vor dem ersten Bild ab.</translation>
+    </message>
+    <message>
+        <source>The recording is damaged.</source>
+        <translation>Die Aufnahme ist beschädigt.</translation>
+    </message>
+    <message>
+        <source>No decoder for its pictures is installed.</source>
+        <translation>Für die Bilder ist kein Decoder installiert.</translation>
+    </message>
+    <message>
+        <source>No decoder for %1 is installed.</source>
+        <translation>Für %1 ist kein Decoder installiert.</translation>
+    </message>
+    <message>
+        <source>The package %1 brings it.</source>
+        <extracomment>%1 is the name of a package, which brings the missing decoder.</extracomment>
+        <translation>Er ist im Paket %1 enthalten.</translation>
+    </message>
+</context>
+<context>
     <name>PlaylistModel</name>
     <message>
         <source>File Name</source>

@@ -193,6 +193,57 @@
     </message>
 </context>
 <context>
+    <name>PlaybackNotices</name>
+    <message>
+        <source>Reading telemetry…</source>
+        <translation>Lettura della telemetria…</translation>
+    </message>
+    <message>
+        <source>This computer may be too slow for this recording.</source>
+        <translation>Questo computer potrebbe essere troppo lento per questa registrazione.</translation>
+    </message>
+</context>
+<context>
+    <name>PlaybackProblem</name>
+    <message>
+        <source>The file is gone or cannot be read.</source>
+        <translation>Il file non esiste più o non può essere letto.</translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation>Il file è vuoto.</translation>
+    </message>
+    <message>
+        <source>The file is not a video recording.</source>
+        <translation>Il file non è una registrazione video.</translation>
+    </message>
+    <message>
+        <source>The recording is damaged: its header is missing.</source>
+        <translation>La registrazione è danneggiata: manca l’intestazione.</translation>
+    </message>
+    <message>
+        <source>The recording is damaged: it breaks off before its first picture.</source>
+        <translation>La registrazione è danneggiata: si interrompe prima della prima immagine.</translation>
+    </message>
+    <message>
+        <source>The recording is damaged.</source>
+        <translation>La registrazione è danneggiata.</translation>
+    </message>
+    <message>
+        <source>No decoder for its pictures is installed.</source>
+        <translation>Non è installato alcun decodificatore per le sue immagini.</translation>
+    </message>
+    <message>
+        <source>No decoder for %1 is installed.</source>
+        <translation>Non è installato alcun decodificatore per %1.</translation>
+    </message>
+    <message>
+        <source>The package %1 brings it.</source>
+        <extracomment>%1 is the name of a package, which brings the missing decoder.</extracomment>
+        <translation>È contenuto nel pacchetto %1.</translation>
+    </message>
+</context>
+<context>
     <name>PlaylistModel</name>
     <message>
         <source>File Name</source>

@@ -193,6 +193,57 @@
     </message>
 </context>
 <context>
+    <name>PlaybackNotices</name>
+    <message>
+        <source>Reading telemetry…</source>
+        <translation>テレメトリーを読み込んでいます…</translation>
+    </message>
+    <message>
+        <source>This computer may be too slow for this recording.</source>
+        <translation>この録画を再生するには、このコンピューターの性能が足りない可能性があります。</translation>
+    </message>
+</context>
+<context>
+    <name>PlaybackProblem</name>
+    <message>
+        <source>The file is gone or cannot be read.</source>
+        <translation>ファイルが見つからないか、読み取れません。</translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation>ファイルが空です。</translation>
+    </message>
+    <message>
+        <source>The file is not a video recording.</source>
+        <translation>このファイルは録画映像ではありません。</translation>
+    </message>
+    <message>
+        <source>The recording is damaged: its header is missing.</source>
+        <translation>録画が壊れています。ヘッダーがありません。</translation>
+    </message>
+    <message>
+        <source>The recording is damaged: it breaks off before its first picture.</source>
+        <translation>録画が壊れています。最初の映像の前で途切れています。</translation>
+    </message>
+    <message>
+        <source>The recording is damaged.</source>
+        <translation>録画が壊れています。</translation>
+    </message>
+    <message>
+        <source>No decoder for its pictures is installed.</source>
+        <translation>この映像のデコーダーがインストールされていません。</translation>
+    </message>
+    <message>
+        <source>No decoder for %1 is installed.</source>
+        <translation>%1 のデコーダーがインストールされていません。</translation>
+    </message>
+    <message>
+        <source>The package %1 brings it.</source>
+        <extracomment>%1 is the name of a package, which brings the missing decoder.</extracomment>
+        <translation>パッケージ %1 に含まれています。</translation>
+    </message>
+</context>
+<context>
     <name>PlaylistModel</name>
     <message>
         <source>File Name</source>

@@ -193,6 +193,57 @@
     </message>
 </context>
 <context>
+    <name>PlaybackNotices</name>
+    <message>
+        <source>Reading telemetry…</source>
+        <translation>주행 정보를 읽는 중…</translation>
+    </message>
+    <message>
+        <source>This computer may be too slow for this recording.</source>
+        <translation>이 컴퓨터는 이 녹화를 재생하기에 너무 느릴 수 있습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>PlaybackProblem</name>
+    <message>
+        <source>The file is gone or cannot be read.</source>
+        <translation>파일이 없거나 읽을 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation>파일이 비어 있습니다.</translation>
+    </message>
+    <message>
+        <source>The file is not a video recording.</source>
+        <translation>이 파일은 녹화 영상이 아닙니다.</translation>
+    </message>
+    <message>
+        <source>The recording is damaged: its header is missing.</source>
+        <translation>녹화가 손상되었습니다. 헤더가 없습니다.</translation>
+    </message>
+    <message>
+        <source>The recording is damaged: it breaks off before its first picture.</source>
+        <translation>녹화가 손상되었습니다. 첫 화면이 나오기 전에 끊깁니다.</translation>
+    </message>
+    <message>
+        <source>The recording is damaged.</source>
+        <translation>녹화가 손상되었습니다.</translation>
+    </message>
+    <message>
+        <source>No decoder for its pictures is installed.</source>
+        <translation>이 영상의 디코더가 설치되어 있지 않습니다.</translation>
+    </message>
+    <message>
+        <source>No decoder for %1 is installed.</source>
+        <translation>%1 디코더가 설치되어 있지 않습니다.</translation>
+    </message>
+    <message>
+        <source>The package %1 brings it.</source>
+        <extracomment>%1 is the name of a package, which brings the missing decoder.</extracomment>
+        <translation>%1 패키지에 들어 있습니다.</translation>
+    </message>
+</context>
+<context>
     <name>PlaylistModel</name>
     <message>
         <source>File Name</source>

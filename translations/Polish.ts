@@ -193,6 +193,57 @@
     </message>
 </context>
 <context>
+    <name>PlaybackNotices</name>
+    <message>
+        <source>Reading telemetry…</source>
+        <translation>Odczytywanie telemetrii…</translation>
+    </message>
+    <message>
+        <source>This computer may be too slow for this recording.</source>
+        <translation>Ten komputer może być zbyt wolny dla tego nagrania.</translation>
+    </message>
+</context>
+<context>
+    <name>PlaybackProblem</name>
+    <message>
+        <source>The file is gone or cannot be read.</source>
+        <translation>Plik już nie istnieje lub nie można go odczytać.</translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation>Plik jest pusty.</translation>
+    </message>
+    <message>
+        <source>The file is not a video recording.</source>
+        <translation>Plik nie jest nagraniem wideo.</translation>
+    </message>
+    <message>
+        <source>The recording is damaged: its header is missing.</source>
+        <translation>Nagranie jest uszkodzone: brakuje nagłówka.</translation>
+    </message>
+    <message>
+        <source>The recording is damaged: it breaks off before its first picture.</source>
+        <translation>Nagranie jest uszkodzone: urywa się przed pierwszym obrazem.</translation>
+    </message>
+    <message>
+        <source>The recording is damaged.</source>
+        <translation>Nagranie jest uszkodzone.</translation>
+    </message>
+    <message>
+        <source>No decoder for its pictures is installed.</source>
+        <translation>Nie zainstalowano dekodera dla jego obrazów.</translation>
+    </message>
+    <message>
+        <source>No decoder for %1 is installed.</source>
+        <translation>Nie zainstalowano dekodera %1.</translation>
+    </message>
+    <message>
+        <source>The package %1 brings it.</source>
+        <extracomment>%1 is the name of a package, which brings the missing decoder.</extracomment>
+        <translation>Zawiera go pakiet %1.</translation>
+    </message>
+</context>
+<context>
     <name>PlaylistModel</name>
     <message>
         <source>File Name</source>

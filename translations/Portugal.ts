@@ -193,6 +193,57 @@
     </message>
 </context>
 <context>
+    <name>PlaybackNotices</name>
+    <message>
+        <source>Reading telemetry…</source>
+        <translation>A ler a telemetria…</translation>
+    </message>
+    <message>
+        <source>This computer may be too slow for this recording.</source>
+        <translation>Este computador poderá ser demasiado lento para esta gravação.</translation>
+    </message>
+</context>
+<context>
+    <name>PlaybackProblem</name>
+    <message>
+        <source>The file is gone or cannot be read.</source>
+        <translation>O ficheiro já não existe ou não pode ser lido.</translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation>O ficheiro está vazio.</translation>
+    </message>
+    <message>
+        <source>The file is not a video recording.</source>
+        <translation>O ficheiro não é uma gravação de vídeo.</translation>
+    </message>
+    <message>
+        <source>The recording is damaged: its header is missing.</source>
+        <translation>A gravação está danificada: falta o cabeçalho.</translation>
+    </message>
+    <message>
+        <source>The recording is damaged: it breaks off before its first picture.</source>
+        <translation>A gravação está danificada: interrompe-se antes da primeira imagem.</translation>
+    </message>
+    <message>
+        <source>The recording is damaged.</source>
+        <translation>A gravação está danificada.</translation>
+    </message>
+    <message>
+        <source>No decoder for its pictures is installed.</source>
+        <translation>Não está instalado nenhum descodificador para as suas imagens.</translation>
+    </message>
+    <message>
+        <source>No decoder for %1 is installed.</source>
+        <translation>Não está instalado nenhum descodificador para %1.</translation>
+    </message>
+    <message>
+        <source>The package %1 brings it.</source>
+        <extracomment>%1 is the name of a package, which brings the missing decoder.</extracomment>
+        <translation>O pacote %1 contém-no.</translation>
+    </message>
+</context>
+<context>
     <name>PlaylistModel</name>
     <message>
         <source>File Name</source>
