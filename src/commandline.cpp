@@ -75,7 +75,9 @@ QString obstacle(const QUrl &url)
     if (!file.exists())
         return QStringLiteral("there is no such file");
     if (file.isDir())
-        return QStringLiteral("it is a folder");
+        return file.isReadable() && file.isExecutable()
+                   ? QString()
+                   : QStringLiteral("the folder cannot be read");
     if (!PlayAreaManager::isRecordingName(file.fileName()))
         return QStringLiteral("its name ends neither in mp4 nor in mov or avi");
     return QString();
@@ -91,9 +93,10 @@ CommandLine::CommandLine()
     mParser.addVersionOption();
     mParser.addOption({NewWindowOption,
                        QStringLiteral("Open a window of its own, even if there is one already.")});
-    mParser.addPositionalArgument(QStringLiteral("recordings"),
-                                  QStringLiteral("MP4, MOV or AVI files to open"),
-                                  QStringLiteral("[recordings...]"));
+    mParser.addPositionalArgument(
+        QStringLiteral("recordings"),
+        QStringLiteral("MP4, MOV or AVI files to open, or folders of them"),
+        QStringLiteral("[recordings...]"));
 }
 
 bool CommandLine::asksForInformation(int argc, const char *const *argv)

@@ -8,8 +8,8 @@
 #include <QUrl>
 
 /**
- * The command line: options, and recordings to open, as paths or file URLs. It is read before there
- * is an application object, since that needs a display.
+ * The command line: options, and recordings and folders to open, as paths or file URLs. It is read
+ * before there is an application object, since that needs a display.
  */
 class CommandLine
 {
@@ -30,8 +30,8 @@ public:
     /** Whether a window of its own is asked for, even if there is one already. */
     bool wantsNewWindow() const;
 
-    /** The recordings named, in order. Each name that cannot be opened gets a message on standard
-     *  error instead. */
+    /** The recordings and folders named, in order. Each name that cannot be opened gets a message
+     * on standard error instead. */
     QList<QUrl> recordings() const;
 
 private:

@@ -24,6 +24,7 @@ const QString MainwindowsIsMaximizeKey = QStringLiteral("mainwindowsIsMaximize")
 const QString VolumeKey = QStringLiteral("volume");
 const QString MutedKey = QStringLiteral("muted");
 const QString PlaybackRateKey = QStringLiteral("playbackRate");
+const QString RemembersListKey = QStringLiteral("rememberList");
 
 constexpr int FullVolume = 100;
 
@@ -200,8 +201,7 @@ void Configuration::setVolume(int volume)
 
 bool Configuration::isMuted()
 {
-    // By itself any text but a few would be taken for true.
-    return mSettings->value(MutedKey).toString() == QLatin1String("true");
+    return isTrue(MutedKey);
 }
 
 void Configuration::setMuted(bool muted)
@@ -217,6 +217,16 @@ double Configuration::playbackRate()
 void Configuration::setPlaybackRate(double rate)
 {
     store(PlaybackRateKey, rate);
+}
+
+bool Configuration::remembersList()
+{
+    return isTrue(RemembersListKey);
+}
+
+void Configuration::setRemembersList(bool remembers)
+{
+    store(RemembersListKey, remembers);
 }
 
 QString Configuration::directory()
@@ -254,6 +264,12 @@ bool Configuration::installTranslation(Language_e language)
         return false;
     QCoreApplication::removeTranslator(&mTranslator);
     return mTranslator.load(file) && QCoreApplication::installTranslator(&mTranslator);
+}
+
+/** By itself any text but a few would be taken for true. */
+bool Configuration::isTrue(const QString &key) const
+{
+    return mSettings->value(key).toString() == QLatin1String("true");
 }
 
 void Configuration::store(const QString &key, const QVariant &value)

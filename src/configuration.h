@@ -107,6 +107,11 @@ public:
     double playbackRate();
     void setPlaybackRate(double rate);
 
+    /** Whether the playlist is kept from one run to the next, by default and for anything
+     * unreadable false. */
+    bool remembersList();
+    void setRemembersList(bool remembers);
+
     /** The folder of the settings file, which may not exist yet. */
     static QString directory();
 
@@ -123,6 +128,7 @@ signals:
 private:
     Configuration();
     bool installTranslation(Language_e language);
+    bool isTrue(const QString &key) const;
     void store(const QString &key, const QVariant &value);
 
     QTranslator mTranslator;        // installed while a translated language is set

@@ -22,6 +22,8 @@ public:
 
     /** Shows a notice in place of the full text for @p ms milliseconds, or until a text is set. */
     void showNotice(const QString &notice, const QString &details, int ms);
+    /** Shows the full text again. */
+    void endNotice();
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -31,7 +33,6 @@ protected:
 
 private:
     void elide();
-    void endNotice();
 
     QString mFullText;
     QString mNotice; // empty: there is none

@@ -8,6 +8,7 @@
 #include "macnosleeper.h"
 #include "mainwindows.h"
 #include "playbackmemory.h"
+#include "playlistmemory.h"
 #include "runningwindow.h"
 #include "terminationwatch.h"
 #include "windowclaim.h"
@@ -135,10 +136,13 @@ int main(int argc, char *argv[])
 
     MainWindows window;
     const PlaybackMemory playbackMemory(&window);
+    PlaylistMemory playlistMemory(&window);
     const TerminationWatch termination;
     QObject::connect(&termination, &TerminationWatch::requested, &window,
                      [&window] { closeProgram(&window); });
     window.show();
+    if (recordings.isEmpty())
+        playlistMemory.restore();
     window.openRecordings(recordings);
     const RunningWindow running(&claim, &window);
     QObject::connect(&running, &RunningWindow::recordingsReceived, &window,

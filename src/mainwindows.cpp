@@ -14,10 +14,12 @@
 #include "mapreload.h"
 #include "mediaurl.h"
 #include "movefilter.h"
+#include "openingplaces.h"
 #include "pendingstart.h"
 #include "playbacknotices.h"
 #include "playlistadvance.h"
 #include "playlistmodel.h"
+#include "recordingopener.h"
 #include "rowdata.h"
 #include "screenshotnotice.h"
 #include "setting.h"
@@ -25,7 +27,6 @@
 #include "telemetrydisplays.h"
 
 #include <QDebug>
-#include <QFileInfo>
 #include <QKeyEvent>
 #include <QTime>
 #include <QTimer>
@@ -61,6 +62,7 @@ MainWindows::MainWindows(QWidget *parent)
     mUi->tbl_PlayListView->setPlaylist(mPlaylistModel);
     setupControlPanel();
     setupPlayback();
+    setupOpening();
     mShortcuts =
         new Shortcuts(this, {mUi->wgt_ControlPanel, mUi->wgt_PlayArea, mUi->tbl_PlayListView});
     setAppName(APP_NAME);
@@ -73,6 +75,7 @@ MainWindows::MainWindows(QWidget *parent)
 MainWindows::~MainWindows()
 {
     // Waiting for the workers processes events, which must not reach this window any more.
+    mOpener->cancel();
     mUi->wgt_PlayArea->disconnect(this);
     mIsStopped = true;
     mPendingStart->drop();
@@ -95,12 +98,7 @@ void MainWindows::setTitleFileName(const QString &name)
 
 void MainWindows::openRecordings(const QList<QUrl> &urls)
 {
-    if (urls.isEmpty())
-        return;
-    const int first = mPlaylistModel->addDataByUrl(urls.first());
-    for (const QUrl &url : urls)
-        mPlaylistModel->addDataByUrl(url);
-    playByData(mPlaylistModel->getRowData(first));
+    mOpener->open(urls);
 }
 
 void MainWindows::playByData(const RowData *row)
@@ -143,31 +141,32 @@ void MainWindows::onUpdateLanguage()
 void MainWindows::openFile()
 {
     qDebug() << "open file--";
-    const QList<QUrl> urls =
-        askForRecordings(this, tr("Open Files"), Configuration::GetInstance()->videoFilePath());
-    int firstRow = -1;
-    int lastRow = -1;
-    for (const QUrl &url : urls) {
-        if (QFileInfo(url.toLocalFile()).isDir())
-            continue;
-        lastRow = mPlaylistModel->addDataByUrl(url);
-        firstRow = firstRow < 0 ? lastRow : firstRow;
-    }
-    if (lastRow < 0)
+    mOpener->openChosen(
+        askForRecordings(this, tr("Open Files"), Configuration::GetInstance()->videoFilePath()));
+}
+
+void MainWindows::openFolder()
+{
+    Configuration *settings = Configuration::GetInstance();
+    const QString folder = askForFolder(this, tr("Open Folder"), settings->videoFilePath());
+    if (folder.isEmpty())
         return;
-    const QString folder = QFileInfo(urls.last().toLocalFile()).absolutePath();
-    Configuration::GetInstance()->setVideoFilePath(folder);
-    qDebug() << "all file count:" << lastRow;
-    qDebug() << "select file count:" << urls.size();
-    // Some may have been in the list before, anywhere.
-    mUi->tbl_PlayListView->selectRow(firstRow);
-    onTableDoubleClicked(mUi->tbl_PlayListView->currentIndex());
+    settings->setVideoFilePath(folder);
+    mOpener->open({QUrl::fromLocalFile(folder)});
 }
 
 void MainWindows::onDropFile(const QString &filePath)
 {
-    mUi->tbl_PlayListView->selectRow(mPlaylistModel->addDataByUrl(QUrl(filePath)));
-    onTableDoubleClicked(mUi->tbl_PlayListView->currentIndex());
+    mOpener->open({QUrl(filePath)});
+}
+
+void MainWindows::clearList()
+{
+    mOpener->cancel();
+    mPendingStart->drop();
+    onStop();
+    mUi->wgt_PlayArea->forgetRows();
+    mPlaylistModel->clearAllData();
 }
 
 void MainWindows::onStop()
@@ -331,7 +330,8 @@ void MainWindows::keyPressEvent(QKeyEvent *event)
     if (event->key() == Qt::Key_Escape) {
         // Swallowed, as it must never close the window; a picture that fills the screen may have
         // lost the keyboard to this window.
-        mUi->wgt_PlayArea->leaveFullScreen();
+        if (mUi->wgt_PlayArea->isPictureFullScreen() || !mOpener->cancel())
+            mUi->wgt_PlayArea->leaveFullScreen();
         event->accept();
     } else if (mShortcuts->press(*event)) {
         event->accept();
@@ -346,6 +346,7 @@ void MainWindows::closeEvent(QCloseEvent *event)
     // Whatever waits or is being filled ends now, and the program with it.
     mIsStopped = true;
     giveUpRound();
+    mOpener->cancel();
     mPendingStart->drop();
     mUi->wgt_PlayArea->stop();
     mUi->wgt_MapView->dropTrack();
@@ -386,6 +387,15 @@ void MainWindows::setupPlayback()
     mNotices = new PlaybackNotices(mUi->wgt_PlayArea, this);
     mAdvance = new PlaylistAdvance(mUi->wgt_PlayArea, this);
     connect(mAdvance, &PlaylistAdvance::due, this, &MainWindows::onRecordingEnded);
+}
+
+void MainWindows::setupOpening()
+{
+    mOpener = new RecordingOpener(mPlaylistModel, mUi->lbl_FileName, this);
+    connect(mOpener, &RecordingOpener::opened, this,
+            [this](int row) { playByData(mPlaylistModel->getRowData(row)); });
+    new OpeningPlaces(this, {mUi->wgt_ControlPanel, mUi->wgt_PlayArea, mUi->tbl_PlayListView},
+                      mPlaylistModel, mOpener);
 }
 
 void MainWindows::connectControlPanel()

@@ -18,6 +18,7 @@ class PlaylistAdvance;
 class PlaylistModel;
 class QKeyEvent;
 class QUrl;
+class RecordingOpener;
 class Shortcuts;
 class TelemetryDisplays;
 struct RowData;
@@ -52,7 +53,8 @@ public:
     void setAppName(const QString &name);
     void setTitleFileName(const QString &name);
 
-    /** Adds the recordings in order and plays the first of them. Nothing for an empty list. */
+    /** Adds the recordings, and those of the folders, in order and plays the first of them. Nothing
+     *  for an empty list. */
     void openRecordings(const QList<QUrl> &urls);
     /** Plays a row, beside its related recording if the playlist has one, once its telemetry has
      *  been delivered. Nothing for null. */
@@ -66,6 +68,9 @@ public slots:
     bool isSuportH264orH265(int row);
     void onUpdateLanguage();
     void openFile();
+    void openFolder();
+    /** Stops, and begins anew with an empty list. */
+    void clearList();
     /** @param filePath the recording's URL as text. */
     void onDropFile(const QString &filePath);
     /** A recording that waits to be started is still loaded, but not played: previous and next are
@@ -97,6 +102,7 @@ private:
     void installMoving();
     void setupControlPanel();
     void setupPlayback();
+    void setupOpening();
     void connectControlPanel();
     void connectPlayArea();
     void connectPlaylistAndSettings();
@@ -117,6 +123,7 @@ private:
     PendingStart *mPendingStart = nullptr; // a child
     PlaybackNotices *mNotices = nullptr;   // a child
     PlaylistAdvance *mAdvance = nullptr;   // a child
+    RecordingOpener *mOpener = nullptr;    // a child
     Shortcuts *mShortcuts = nullptr;       // a child
     int mRound = 0;                        // starts and stops: those before are given up
     bool mIsStopped = false; // or closed, and no start since: what is delivered now is too late

@@ -171,10 +171,14 @@ void PlayAreaManager::leaveFullScreen()
         mSecond->leaveFullScreen();
 }
 
+bool PlayAreaManager::isPictureFullScreen() const
+{
+    return mMain->isFullScreen() || (mSecond && mSecond->isFullScreen());
+}
+
 void PlayAreaManager::toggleFullScreen()
 {
-    const bool isFull = mMain->isFullScreen() || (mSecond && mSecond->isFullScreen());
-    if (isFull)
+    if (isPictureFullScreen())
         leaveFullScreen();
     else
         mMain->enterFullScreen();

@@ -48,6 +48,8 @@ public:
     void forgetRows();
     /** Ends a player's full screen, if there is one. */
     void leaveFullScreen();
+    /** Whether a player's picture fills the screen. */
+    bool isPictureFullScreen() const;
     /** Ends a player's full screen, or else fills the screen with the main recording. */
     void toggleFullScreen();
 

@@ -10,6 +10,7 @@
 #include <QTime>
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace {
@@ -18,6 +19,7 @@ constexpr int SecondsPerDay = 24 * 60 * 60;
 constexpr int SharedEndLength = 8;  // "0001.MP4"
 constexpr int CameraPartLength = 7; // what differs between the cameras, extension included
 constexpr int H264 = 1;
+constexpr int EndingLookMs = 100;
 
 const char *const ColumnTitles[PlaylistModel::ColumnCount] = {
     QT_TRANSLATE_NOOP("PlaylistModel", "File Name"),
@@ -37,11 +39,18 @@ const char *const SizeUnits[] = {
 
 } // namespace
 
-PlaylistModel::PlaylistModel(QObject *parent) : QAbstractItemModel(parent) {}
+PlaylistModel::PlaylistModel(QObject *parent) : QAbstractItemModel(parent)
+{
+    mEndingTimer.setInterval(EndingLookMs);
+    connect(&mEndingTimer, &QTimer::timeout, this, &PlaylistModel::disposeOfEnded);
+}
 
 PlaylistModel::~PlaylistModel()
 {
-    destroyRows();
+    takeRows();
+    mEndingTimer.stop();
+    // Waiting for a worker processes events, which must not find rows that are half gone.
+    const Rows rows = std::exchange(mEnding, Rows());
 }
 
 int PlaylistModel::rowCount(const QModelIndex &parent) const
@@ -120,8 +129,9 @@ RowData *PlaylistModel::getRowData(int row) const
 void PlaylistModel::clearAllData()
 {
     beginResetModel();
-    destroyRows();
+    takeRows();
     endResetModel();
+    mEndingTimer.start();
 }
 
 int PlaylistModel::getCurPlayFileDuration(int row) const
@@ -231,12 +241,25 @@ void PlaylistModel::onVideoInfoChanged(int id, VideoInfo info)
     emit dataChanged(QModelIndex(), QModelIndex());
 }
 
+// What a worker has sent by then arrives after a clearing too, when its id may be another row's.
 void PlaylistModel::connectWorker(const RowData &row)
 {
-    connect(&row.parser, &VideoParser::videoInfoChanged, this, &PlaylistModel::onVideoInfoChanged);
-    connect(&row.parser, &VideoParser::gpsDataChanged, this, &PlaylistModel::gpsDataChanged);
+    const auto isListed = [this, clearings = mClearings] { return clearings == mClearings; };
+    connect(&row.parser, &VideoParser::videoInfoChanged, this,
+            [this, isListed](int id, const VideoInfo &info) {
+                if (isListed())
+                    onVideoInfoChanged(id, info);
+            });
+    connect(&row.parser, &VideoParser::gpsDataChanged, this,
+            [this, isListed](int id, const GpsData &sample) {
+                if (isListed())
+                    emit gpsDataChanged(id, sample);
+            });
     connect(&row.parser, &VideoParser::allGpsDataParserFinished, this,
-            &PlaylistModel::allGpsDataParserFinished);
+            [this, isListed](int id, const QList<GpsData> &list) {
+                if (isListed())
+                    emit allGpsDataParserFinished(id, list);
+            });
 }
 
 RowData *PlaylistModel::findPartnerByEnd(const RowData &main) const
@@ -264,11 +287,24 @@ RowData *PlaylistModel::findPartnerByStart(const RowData &main) const
     return nullptr;
 }
 
-void PlaylistModel::destroyRows()
+/** Empties the list, and has the workers end all at once. */
+void PlaylistModel::takeRows()
 {
-    // Waiting for a worker processes events, which must not find rows that are half gone.
-    const Rows rows = std::exchange(mRows, Rows());
+    ++mClearings;
     mRowOfFileName.clear();
-    for (const auto &row : rows)
+    for (auto &row : std::exchange(mRows, Rows())) {
         row->parser.stopParserGpsData();
+        mEnding.push_back(std::move(row));
+    }
+}
+
+void PlaylistModel::disposeOfEnded()
+{
+    const auto ended = std::partition(mEnding.begin(), mEnding.end(),
+                                      [](const auto &row) { return row->parser.isRunning(); });
+    // Taken out first: what waits for a worker's very end processes events.
+    const Rows gone(std::make_move_iterator(ended), std::make_move_iterator(mEnding.end()));
+    mEnding.erase(ended, mEnding.end());
+    if (mEnding.empty())
+        mEndingTimer.stop();
 }

@@ -8,6 +8,7 @@
 #include <QAbstractItemModel>
 #include <QHash>
 #include <QSize>
+#include <QTimer>
 
 #include <memory>
 #include <vector>
@@ -57,7 +58,8 @@ public:
 
     /** The row, owned by the model; null when out of range. */
     RowData *getRowData(int row) const;
-    /** Removes every row and ends its worker. */
+    /** Removes every row and tells its worker to end, without waiting for it: it is disposed of
+     *  when it has. Nothing that it still delivers is taken for a later row's. */
     void clearAllData();
 
     /** Seconds; 0 when out of range. */
@@ -101,8 +103,12 @@ private:
     void connectWorker(const RowData &row);
     RowData *findPartnerByEnd(const RowData &main) const;
     RowData *findPartnerByStart(const RowData &main) const;
-    void destroyRows();
+    void takeRows();
+    void disposeOfEnded();
 
     Rows mRows;
+    Rows mEnding;        // taken out of the list, until their workers have ended
+    QTimer mEndingTimer; // looks whether they have
+    int mClearings = 0;
     QHash<QString, int> mRowOfFileName;
 };

@@ -5,6 +5,8 @@
 #include "controlpanel.h"
 #include "mainwindows.h"
 #include "playareamanager.h"
+#include "playlistmenu.h"
+#include "resumeoffer.h"
 
 #include <QApplication>
 #include <QHash>
@@ -28,9 +30,9 @@ bool isPunctuation(int key)
 int latinKey(int key)
 {
     static const QHash<int, int> Latin = {
-        {0x0410, Qt::Key_F},           {0x042C, Qt::Key_M},      {0x042B, Qt::Key_S},
-        {0x0411, Qt::Key_Comma},       {0x042E, Qt::Key_Period}, {0x0425, Qt::Key_BracketLeft},
-        {0x042A, Qt::Key_BracketRight}};
+        {0x0410, Qt::Key_F},      {0x041A, Qt::Key_R},           {0x0429, Qt::Key_O},
+        {0x042C, Qt::Key_M},      {0x042B, Qt::Key_S},           {0x0411, Qt::Key_Comma},
+        {0x042E, Qt::Key_Period}, {0x0425, Qt::Key_BracketLeft}, {0x042A, Qt::Key_BracketRight}};
     return Latin.value(key, key);
 }
 
@@ -143,6 +145,10 @@ const QVector<Shortcuts::Binding> &Shortcuts::bindings()
         {Qt::Key_Escape, false, nullptr, QT_TR_NOOP("Leave the full screen")},
         {Qt::Key_S, false, &Shortcuts::screenshot, QT_TR_NOOP("Take a screenshot")},
         {Qt::CTRL | Qt::Key_O, false, &Shortcuts::openFiles, QT_TR_NOOP("Open recordings")},
+        {Qt::CTRL | Qt::SHIFT | Qt::Key_O, false, &Shortcuts::openFolder, QT_TR_NOOP("Open all recordings in a folder")},
+        {Qt::Key_R, false, &Shortcuts::resume, QT_TR_NOOP("Continue the recording that is offered")},
+        {Qt::Key_Menu, false, &Shortcuts::showListMenu, QT_TR_NOOP("Menu of the list")},
+        {Qt::SHIFT | Qt::Key_F10, false, &Shortcuts::showListMenu, QT_TR_NOOP("Menu of the list")},
         {Qt::CTRL | Qt::Key_Comma, false, &Shortcuts::openSettings, QT_TR_NOOP("Settings")},
         {Qt::Key_F1, false, &Shortcuts::listKeys, QT_TR_NOOP("This list")},
         {Qt::Key_Question, false, &Shortcuts::listKeys, QT_TR_NOOP("This list")},
@@ -155,6 +161,8 @@ QString Shortcuts::keyName(int key)
 {
     if (key & Qt::CTRL)
         return tr("Ctrl") + QLatin1Char('+') + keyName(key & ~Qt::CTRL);
+    if (key & Qt::SHIFT)
+        return tr("Shift") + QLatin1Char('+') + keyName(key & ~Qt::SHIFT);
     switch (key) {
     case Qt::Key_Space:
         return tr("Space");
@@ -171,6 +179,8 @@ QString Shortcuts::keyName(int key)
         return tr("Page Up");
     case Qt::Key_PageDown:
         return tr("Page Down");
+    case Qt::Key_Menu:
+        return tr("Menu");
     case Qt::Key_Left:
         return QStringLiteral("\u2190");
     case Qt::Key_Up:
@@ -205,6 +215,11 @@ void Shortcuts::openFiles()
     later(&Shortcuts::showOpenDialog);
 }
 
+void Shortcuts::openFolder()
+{
+    later(&Shortcuts::showFolderDialog);
+}
+
 void Shortcuts::openSettings()
 {
     later(&Shortcuts::showSettings);
@@ -220,6 +235,24 @@ void Shortcuts::showOpenDialog()
 {
     mWidgets.area->leaveFullScreen();
     mWindow->openFile();
+}
+
+void Shortcuts::showFolderDialog()
+{
+    mWidgets.area->leaveFullScreen();
+    mWindow->openFolder();
+}
+
+void Shortcuts::showListMenu()
+{
+    if (!mWidgets.area->isPictureFullScreen())
+        mWidgets.playlist->findChild<PlaylistMenu *>()->show();
+}
+
+void Shortcuts::resume()
+{
+    if (auto *offer = mWindow->findChild<ResumeOffer *>())
+        offer->accept();
 }
 
 void Shortcuts::showSettings()

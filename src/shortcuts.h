@@ -52,9 +52,13 @@ private:
     void later(void (Shortcuts::*showDialog)());
 
     void openFiles();
+    void openFolder();
     void openSettings();
     void listKeys();
     void showOpenDialog();
+    void showFolderDialog();
+    void showListMenu();
+    void resume();
     void showSettings();
     void showKeys();
     void toggleFullScreen();

@@ -70,10 +70,11 @@ void TestCommandLine::namesThatCannotBeOpened()
 {
     for (const char *name : {"first.mp4", "second.mov", "notes.txt"})
         QVERIFY(QFile(name).open(QFile::WriteOnly));
-    QVERIFY(QDir().mkpath("folder.mp4"));
-    const QStringList refused{"absent.mp4", "folder.mp4", "notes.txt", "http://home/first.mp4", ""};
-    open(QStringList("second.mov") + refused + QStringList("first.mp4"));
-    QCOMPARE(mPaths, QStringList({mDir.filePath("second.mov"), mDir.filePath("first.mp4")}));
+    QVERIFY(QDir().mkpath("folder"));
+    const QStringList refused{"absent.mp4", "absent", "notes.txt", "http://home/first.mp4", ""};
+    open(QStringList({"second.mov", "folder"}) + refused + QStringList("first.mp4"));
+    QCOMPARE(mPaths, QStringList({mDir.filePath("second.mov"), mDir.filePath("folder"),
+                                  mDir.filePath("first.mp4")}));
     QCOMPARE(mErrors.count('\n'), refused.size());
     for (const QString &name : refused)
         QVERIFY2(mErrors.contains('"' + name + '"'), qPrintable(mErrors));

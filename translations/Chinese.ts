@@ -191,6 +191,10 @@
         <source>Playback controls</source>
         <translation>播放控制</translation>
     </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>打开文件夹</translation>
+    </message>
 </context>
 <context>
     <name>PlaybackNotices</name>
@@ -555,6 +559,110 @@
     <message>
         <source>Back or forward by a picture, paused</source>
         <translation>暂停时后退或前进一帧</translation>
+    </message>
+    <message>
+        <source>Open all recordings in a folder</source>
+        <translation>打开文件夹中的全部录像</translation>
+    </message>
+    <message>
+        <source>Continue the recording that is offered</source>
+        <translation>继续播放所提示的录像</translation>
+    </message>
+    <message>
+        <source>Menu of the list</source>
+        <translation>列表菜单</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>菜单键</translation>
+    </message>
+</context>
+<context>
+    <name>RecordingOpener</name>
+    <message>
+        <source>No recordings in %1</source>
+        <translation>%1 中没有录像</translation>
+    </message>
+    <message>
+        <source>Only the first %1 recordings were opened</source>
+        <translation>仅打开了前 %1 个录像</translation>
+    </message>
+    <message>
+        <source>Searching for recordings: %1 (Esc cancels)</source>
+        <translation>正在查找录像：%1 个（按 Esc 取消）</translation>
+    </message>
+    <message>
+        <source>In the list already, from another folder: %1</source>
+        <translation>列表中已有来自其他文件夹的同名录像：%1</translation>
+    </message>
+    <message>
+        <source>In the list already, from other folders: %1 recordings</source>
+        <translation>列表中已有来自其他文件夹的同名录像：%1 个</translation>
+    </message>
+</context>
+<context>
+    <name>PlaylistMenu</name>
+    <message>
+        <source>Play</source>
+        <translation>播放</translation>
+    </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>打开所在文件夹</translation>
+    </message>
+    <message>
+        <source>Copy Name</source>
+        <translation>复制名称</translation>
+    </message>
+    <message>
+        <source>Clear List</source>
+        <translation>清空列表</translation>
+    </message>
+    <message>
+        <source>Remember List</source>
+        <translation>记住列表</translation>
+    </message>
+    <message>
+        <source>The folder %1 is gone</source>
+        <translation>文件夹 %1 已不存在</translation>
+    </message>
+    <message>
+        <source>No program opens the folder %1</source>
+        <translation>没有可打开文件夹 %1 的程序</translation>
+    </message>
+</context>
+<context>
+    <name>OpenMenu</name>
+    <message>
+        <source>Open Files…</source>
+        <translation>打开文件…</translation>
+    </message>
+    <message>
+        <source>Open All in a Folder…</source>
+        <translation>打开文件夹中的全部录像…</translation>
+    </message>
+</context>
+<context>
+    <name>ResumeOffer</name>
+    <message>
+        <source>Continue %1 at %2?</source>
+        <translation>从 %2 继续播放 %1？</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>继续</translation>
+    </message>
+    <message>
+        <source>Continue (R)</source>
+        <translation>继续 (R)</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>关闭</translation>
     </message>
 </context>
 </TS>

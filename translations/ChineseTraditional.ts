@@ -191,6 +191,10 @@
         <source>Playback controls</source>
         <translation>播放控制</translation>
     </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>開啟資料夾</translation>
+    </message>
 </context>
 <context>
     <name>PlaybackNotices</name>
@@ -555,6 +559,110 @@
     <message>
         <source>Back or forward by a picture, paused</source>
         <translation>暫停時後退或前進一格</translation>
+    </message>
+    <message>
+        <source>Open all recordings in a folder</source>
+        <translation>開啟資料夾中的全部錄影</translation>
+    </message>
+    <message>
+        <source>Continue the recording that is offered</source>
+        <translation>繼續播放所提示的錄影</translation>
+    </message>
+    <message>
+        <source>Menu of the list</source>
+        <translation>清單選單</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>選單鍵</translation>
+    </message>
+</context>
+<context>
+    <name>RecordingOpener</name>
+    <message>
+        <source>No recordings in %1</source>
+        <translation>%1 中沒有錄影</translation>
+    </message>
+    <message>
+        <source>Only the first %1 recordings were opened</source>
+        <translation>僅開啟了前 %1 個錄影</translation>
+    </message>
+    <message>
+        <source>Searching for recordings: %1 (Esc cancels)</source>
+        <translation>正在尋找錄影：%1 個（按 Esc 取消）</translation>
+    </message>
+    <message>
+        <source>In the list already, from another folder: %1</source>
+        <translation>清單中已有來自其他資料夾的同名錄影：%1</translation>
+    </message>
+    <message>
+        <source>In the list already, from other folders: %1 recordings</source>
+        <translation>清單中已有來自其他資料夾的同名錄影：%1 個</translation>
+    </message>
+</context>
+<context>
+    <name>PlaylistMenu</name>
+    <message>
+        <source>Play</source>
+        <translation>播放</translation>
+    </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>開啟所在資料夾</translation>
+    </message>
+    <message>
+        <source>Copy Name</source>
+        <translation>複製名稱</translation>
+    </message>
+    <message>
+        <source>Clear List</source>
+        <translation>清空清單</translation>
+    </message>
+    <message>
+        <source>Remember List</source>
+        <translation>記住清單</translation>
+    </message>
+    <message>
+        <source>The folder %1 is gone</source>
+        <translation>資料夾 %1 已不存在</translation>
+    </message>
+    <message>
+        <source>No program opens the folder %1</source>
+        <translation>沒有可開啟資料夾 %1 的程式</translation>
+    </message>
+</context>
+<context>
+    <name>OpenMenu</name>
+    <message>
+        <source>Open Files…</source>
+        <translation>開啟檔案…</translation>
+    </message>
+    <message>
+        <source>Open All in a Folder…</source>
+        <translation>開啟資料夾中的全部錄影…</translation>
+    </message>
+</context>
+<context>
+    <name>ResumeOffer</name>
+    <message>
+        <source>Continue %1 at %2?</source>
+        <translation>從 %2 繼續播放 %1？</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>繼續</translation>
+    </message>
+    <message>
+        <source>Continue (R)</source>
+        <translation>繼續 (R)</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>關閉</translation>
     </message>
 </context>
 </TS>

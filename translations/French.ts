@@ -191,6 +191,10 @@
         <source>Playback controls</source>
         <translation>Commandes de lecture</translation>
     </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>Ouvrir un dossier</translation>
+    </message>
 </context>
 <context>
     <name>PlaybackNotices</name>
@@ -555,6 +559,110 @@
     <message>
         <source>Back or forward by a picture, paused</source>
         <translation>Une image en arrière ou en avant, en pause</translation>
+    </message>
+    <message>
+        <source>Open all recordings in a folder</source>
+        <translation>Ouvrir tous les enregistrements d’un dossier</translation>
+    </message>
+    <message>
+        <source>Continue the recording that is offered</source>
+        <translation>Reprendre l’enregistrement proposé</translation>
+    </message>
+    <message>
+        <source>Menu of the list</source>
+        <translation>Menu de la liste</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Maj</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Menu</translation>
+    </message>
+</context>
+<context>
+    <name>RecordingOpener</name>
+    <message>
+        <source>No recordings in %1</source>
+        <translation>Aucun enregistrement dans %1</translation>
+    </message>
+    <message>
+        <source>Only the first %1 recordings were opened</source>
+        <translation>Seuls les %1 premiers enregistrements ont été ouverts</translation>
+    </message>
+    <message>
+        <source>Searching for recordings: %1 (Esc cancels)</source>
+        <translation>Recherche d’enregistrements : %1 (Échap pour annuler)</translation>
+    </message>
+    <message>
+        <source>In the list already, from another folder: %1</source>
+        <translation>Déjà dans la liste, depuis un autre dossier : %1</translation>
+    </message>
+    <message>
+        <source>In the list already, from other folders: %1 recordings</source>
+        <translation>Déjà dans la liste, depuis d’autres dossiers : %1 enregistrements</translation>
+    </message>
+</context>
+<context>
+    <name>PlaylistMenu</name>
+    <message>
+        <source>Play</source>
+        <translation>Lire</translation>
+    </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>Ouvrir le dossier</translation>
+    </message>
+    <message>
+        <source>Copy Name</source>
+        <translation>Copier le nom</translation>
+    </message>
+    <message>
+        <source>Clear List</source>
+        <translation>Vider la liste</translation>
+    </message>
+    <message>
+        <source>Remember List</source>
+        <translation>Mémoriser la liste</translation>
+    </message>
+    <message>
+        <source>The folder %1 is gone</source>
+        <translation>Le dossier %1 n’existe plus</translation>
+    </message>
+    <message>
+        <source>No program opens the folder %1</source>
+        <translation>Aucun programme n’ouvre le dossier %1</translation>
+    </message>
+</context>
+<context>
+    <name>OpenMenu</name>
+    <message>
+        <source>Open Files…</source>
+        <translation>Ouvrir des fichiers…</translation>
+    </message>
+    <message>
+        <source>Open All in a Folder…</source>
+        <translation>Ouvrir tout un dossier…</translation>
+    </message>
+</context>
+<context>
+    <name>ResumeOffer</name>
+    <message>
+        <source>Continue %1 at %2?</source>
+        <translation>Reprendre %1 à %2 ?</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Reprendre</translation>
+    </message>
+    <message>
+        <source>Continue (R)</source>
+        <translation>Reprendre (R)</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>Ignorer</translation>
     </message>
 </context>
 </TS>

@@ -191,6 +191,10 @@
         <source>Playback controls</source>
         <translation>Wiedergabesteuerung</translation>
     </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>Ordner öffnen</translation>
+    </message>
 </context>
 <context>
     <name>PlaybackNotices</name>
@@ -555,6 +559,110 @@
     <message>
         <source>Back or forward by a picture, paused</source>
         <translation>Ein Bild zurück oder vor, bei Pause</translation>
+    </message>
+    <message>
+        <source>Open all recordings in a folder</source>
+        <translation>Alle Aufnahmen in einem Ordner öffnen</translation>
+    </message>
+    <message>
+        <source>Continue the recording that is offered</source>
+        <translation>Die angebotene Aufnahme fortsetzen</translation>
+    </message>
+    <message>
+        <source>Menu of the list</source>
+        <translation>Menü der Liste</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Umschalt</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Menü</translation>
+    </message>
+</context>
+<context>
+    <name>RecordingOpener</name>
+    <message>
+        <source>No recordings in %1</source>
+        <translation>Keine Aufnahmen in %1</translation>
+    </message>
+    <message>
+        <source>Only the first %1 recordings were opened</source>
+        <translation>Nur die ersten %1 Aufnahmen wurden geöffnet</translation>
+    </message>
+    <message>
+        <source>Searching for recordings: %1 (Esc cancels)</source>
+        <translation>Suche nach Aufnahmen: %1 (Esc bricht ab)</translation>
+    </message>
+    <message>
+        <source>In the list already, from another folder: %1</source>
+        <translation>Bereits in der Liste, aus einem anderen Ordner: %1</translation>
+    </message>
+    <message>
+        <source>In the list already, from other folders: %1 recordings</source>
+        <translation>Bereits in der Liste, aus anderen Ordnern: %1 Aufnahmen</translation>
+    </message>
+</context>
+<context>
+    <name>PlaylistMenu</name>
+    <message>
+        <source>Play</source>
+        <translation>Wiedergeben</translation>
+    </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>Ordner öffnen</translation>
+    </message>
+    <message>
+        <source>Copy Name</source>
+        <translation>Namen kopieren</translation>
+    </message>
+    <message>
+        <source>Clear List</source>
+        <translation>Liste leeren</translation>
+    </message>
+    <message>
+        <source>Remember List</source>
+        <translation>Liste merken</translation>
+    </message>
+    <message>
+        <source>The folder %1 is gone</source>
+        <translation>Der Ordner %1 ist nicht mehr da</translation>
+    </message>
+    <message>
+        <source>No program opens the folder %1</source>
+        <translation>Kein Programm öffnet den Ordner %1</translation>
+    </message>
+</context>
+<context>
+    <name>OpenMenu</name>
+    <message>
+        <source>Open Files…</source>
+        <translation>Dateien öffnen …</translation>
+    </message>
+    <message>
+        <source>Open All in a Folder…</source>
+        <translation>Alle in einem Ordner öffnen …</translation>
+    </message>
+</context>
+<context>
+    <name>ResumeOffer</name>
+    <message>
+        <source>Continue %1 at %2?</source>
+        <translation>%1 bei %2 fortsetzen?</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Fortsetzen</translation>
+    </message>
+    <message>
+        <source>Continue (R)</source>
+        <translation>Fortsetzen (R)</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>Verwerfen</translation>
     </message>
 </context>
 </TS>

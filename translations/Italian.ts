@@ -191,6 +191,10 @@
         <source>Playback controls</source>
         <translation>Comandi di riproduzione</translation>
     </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>Apri cartella</translation>
+    </message>
 </context>
 <context>
     <name>PlaybackNotices</name>
@@ -555,6 +559,110 @@
     <message>
         <source>Back or forward by a picture, paused</source>
         <translation>Indietro o avanti di un fotogramma, in pausa</translation>
+    </message>
+    <message>
+        <source>Open all recordings in a folder</source>
+        <translation>Apri tutte le registrazioni di una cartella</translation>
+    </message>
+    <message>
+        <source>Continue the recording that is offered</source>
+        <translation>Riprendi la registrazione proposta</translation>
+    </message>
+    <message>
+        <source>Menu of the list</source>
+        <translation>Menu dell’elenco</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Maiusc</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Menu</translation>
+    </message>
+</context>
+<context>
+    <name>RecordingOpener</name>
+    <message>
+        <source>No recordings in %1</source>
+        <translation>Nessuna registrazione in %1</translation>
+    </message>
+    <message>
+        <source>Only the first %1 recordings were opened</source>
+        <translation>Sono state aperte solo le prime %1 registrazioni</translation>
+    </message>
+    <message>
+        <source>Searching for recordings: %1 (Esc cancels)</source>
+        <translation>Ricerca di registrazioni: %1 (Esc per annullare)</translation>
+    </message>
+    <message>
+        <source>In the list already, from another folder: %1</source>
+        <translation>Già nell’elenco, da un’altra cartella: %1</translation>
+    </message>
+    <message>
+        <source>In the list already, from other folders: %1 recordings</source>
+        <translation>Già nell’elenco, da altre cartelle: %1 registrazioni</translation>
+    </message>
+</context>
+<context>
+    <name>PlaylistMenu</name>
+    <message>
+        <source>Play</source>
+        <translation>Riproduci</translation>
+    </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>Apri cartella</translation>
+    </message>
+    <message>
+        <source>Copy Name</source>
+        <translation>Copia nome</translation>
+    </message>
+    <message>
+        <source>Clear List</source>
+        <translation>Svuota elenco</translation>
+    </message>
+    <message>
+        <source>Remember List</source>
+        <translation>Ricorda elenco</translation>
+    </message>
+    <message>
+        <source>The folder %1 is gone</source>
+        <translation>La cartella %1 non esiste più</translation>
+    </message>
+    <message>
+        <source>No program opens the folder %1</source>
+        <translation>Nessun programma apre la cartella %1</translation>
+    </message>
+</context>
+<context>
+    <name>OpenMenu</name>
+    <message>
+        <source>Open Files…</source>
+        <translation>Apri file…</translation>
+    </message>
+    <message>
+        <source>Open All in a Folder…</source>
+        <translation>Apri un’intera cartella…</translation>
+    </message>
+</context>
+<context>
+    <name>ResumeOffer</name>
+    <message>
+        <source>Continue %1 at %2?</source>
+        <translation>Riprendere %1 da %2?</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Riprendi</translation>
+    </message>
+    <message>
+        <source>Continue (R)</source>
+        <translation>Riprendi (R)</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>Ignora</translation>
     </message>
 </context>
 </TS>

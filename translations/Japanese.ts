@@ -191,6 +191,10 @@
         <source>Playback controls</source>
         <translation>再生コントロール</translation>
     </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>フォルダーを開く</translation>
+    </message>
 </context>
 <context>
     <name>PlaybackNotices</name>
@@ -555,6 +559,110 @@
     <message>
         <source>Back or forward by a picture, paused</source>
         <translation>一時停止中に 1 コマ戻る、進む</translation>
+    </message>
+    <message>
+        <source>Open all recordings in a folder</source>
+        <translation>フォルダー内のすべての録画を開く</translation>
+    </message>
+    <message>
+        <source>Continue the recording that is offered</source>
+        <translation>提示された録画の続きを再生</translation>
+    </message>
+    <message>
+        <source>Menu of the list</source>
+        <translation>リストのメニュー</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>メニュー</translation>
+    </message>
+</context>
+<context>
+    <name>RecordingOpener</name>
+    <message>
+        <source>No recordings in %1</source>
+        <translation>%1 に録画はありません</translation>
+    </message>
+    <message>
+        <source>Only the first %1 recordings were opened</source>
+        <translation>最初の %1 件の録画だけを開きました</translation>
+    </message>
+    <message>
+        <source>Searching for recordings: %1 (Esc cancels)</source>
+        <translation>録画を検索中: %1 件（Esc で中止）</translation>
+    </message>
+    <message>
+        <source>In the list already, from another folder: %1</source>
+        <translation>別のフォルダーから登録済み: %1</translation>
+    </message>
+    <message>
+        <source>In the list already, from other folders: %1 recordings</source>
+        <translation>別のフォルダーから登録済み: %1 件の録画</translation>
+    </message>
+</context>
+<context>
+    <name>PlaylistMenu</name>
+    <message>
+        <source>Play</source>
+        <translation>再生</translation>
+    </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>フォルダーを開く</translation>
+    </message>
+    <message>
+        <source>Copy Name</source>
+        <translation>名前をコピー</translation>
+    </message>
+    <message>
+        <source>Clear List</source>
+        <translation>リストを空にする</translation>
+    </message>
+    <message>
+        <source>Remember List</source>
+        <translation>リストを記憶する</translation>
+    </message>
+    <message>
+        <source>The folder %1 is gone</source>
+        <translation>フォルダー %1 はもうありません</translation>
+    </message>
+    <message>
+        <source>No program opens the folder %1</source>
+        <translation>フォルダー %1 を開くプログラムがありません</translation>
+    </message>
+</context>
+<context>
+    <name>OpenMenu</name>
+    <message>
+        <source>Open Files…</source>
+        <translation>ファイルを開く…</translation>
+    </message>
+    <message>
+        <source>Open All in a Folder…</source>
+        <translation>フォルダー内のすべてを開く…</translation>
+    </message>
+</context>
+<context>
+    <name>ResumeOffer</name>
+    <message>
+        <source>Continue %1 at %2?</source>
+        <translation>%1 を %2 から続けますか？</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>続ける</translation>
+    </message>
+    <message>
+        <source>Continue (R)</source>
+        <translation>続ける (R)</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>閉じる</translation>
     </message>
 </context>
 </TS>

@@ -191,6 +191,10 @@
         <source>Playback controls</source>
         <translation>재생 컨트롤</translation>
     </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>폴더 열기</translation>
+    </message>
 </context>
 <context>
     <name>PlaybackNotices</name>
@@ -555,6 +559,110 @@
     <message>
         <source>Back or forward by a picture, paused</source>
         <translation>일시 정지 중 한 프레임 뒤로 또는 앞으로</translation>
+    </message>
+    <message>
+        <source>Open all recordings in a folder</source>
+        <translation>폴더의 모든 녹화 열기</translation>
+    </message>
+    <message>
+        <source>Continue the recording that is offered</source>
+        <translation>제안된 녹화 계속 재생</translation>
+    </message>
+    <message>
+        <source>Menu of the list</source>
+        <translation>목록 메뉴</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>메뉴</translation>
+    </message>
+</context>
+<context>
+    <name>RecordingOpener</name>
+    <message>
+        <source>No recordings in %1</source>
+        <translation>%1에 녹화가 없습니다</translation>
+    </message>
+    <message>
+        <source>Only the first %1 recordings were opened</source>
+        <translation>처음 %1개의 녹화만 열었습니다</translation>
+    </message>
+    <message>
+        <source>Searching for recordings: %1 (Esc cancels)</source>
+        <translation>녹화 검색 중: %1개(Esc로 취소)</translation>
+    </message>
+    <message>
+        <source>In the list already, from another folder: %1</source>
+        <translation>다른 폴더의 파일이 이미 목록에 있음: %1</translation>
+    </message>
+    <message>
+        <source>In the list already, from other folders: %1 recordings</source>
+        <translation>다른 폴더의 녹화가 이미 목록에 있음: %1개</translation>
+    </message>
+</context>
+<context>
+    <name>PlaylistMenu</name>
+    <message>
+        <source>Play</source>
+        <translation>재생</translation>
+    </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>폴더 열기</translation>
+    </message>
+    <message>
+        <source>Copy Name</source>
+        <translation>이름 복사</translation>
+    </message>
+    <message>
+        <source>Clear List</source>
+        <translation>목록 비우기</translation>
+    </message>
+    <message>
+        <source>Remember List</source>
+        <translation>목록 기억</translation>
+    </message>
+    <message>
+        <source>The folder %1 is gone</source>
+        <translation>%1 폴더가 더 이상 없습니다</translation>
+    </message>
+    <message>
+        <source>No program opens the folder %1</source>
+        <translation>%1 폴더를 열 프로그램이 없습니다</translation>
+    </message>
+</context>
+<context>
+    <name>OpenMenu</name>
+    <message>
+        <source>Open Files…</source>
+        <translation>파일 열기…</translation>
+    </message>
+    <message>
+        <source>Open All in a Folder…</source>
+        <translation>폴더 전체 열기…</translation>
+    </message>
+</context>
+<context>
+    <name>ResumeOffer</name>
+    <message>
+        <source>Continue %1 at %2?</source>
+        <translation>%1을(를) %2부터 계속할까요?</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>계속</translation>
+    </message>
+    <message>
+        <source>Continue (R)</source>
+        <translation>계속(R)</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>닫기</translation>
     </message>
 </context>
 </TS>

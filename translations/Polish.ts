@@ -191,6 +191,10 @@
         <source>Playback controls</source>
         <translation>Sterowanie odtwarzaniem</translation>
     </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>Otwórz folder</translation>
+    </message>
 </context>
 <context>
     <name>PlaybackNotices</name>
@@ -555,6 +559,110 @@
     <message>
         <source>Back or forward by a picture, paused</source>
         <translation>Klatka wstecz lub naprzód, w pauzie</translation>
+    </message>
+    <message>
+        <source>Open all recordings in a folder</source>
+        <translation>Otwarcie wszystkich nagrań z folderu</translation>
+    </message>
+    <message>
+        <source>Continue the recording that is offered</source>
+        <translation>Kontynuacja proponowanego nagrania</translation>
+    </message>
+    <message>
+        <source>Menu of the list</source>
+        <translation>Menu listy</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Menu</translation>
+    </message>
+</context>
+<context>
+    <name>RecordingOpener</name>
+    <message>
+        <source>No recordings in %1</source>
+        <translation>Brak nagrań w folderze %1</translation>
+    </message>
+    <message>
+        <source>Only the first %1 recordings were opened</source>
+        <translation>Otwarto tylko pierwsze nagrania, łącznie %1</translation>
+    </message>
+    <message>
+        <source>Searching for recordings: %1 (Esc cancels)</source>
+        <translation>Wyszukiwanie nagrań: %1 (Esc przerywa)</translation>
+    </message>
+    <message>
+        <source>In the list already, from another folder: %1</source>
+        <translation>Już na liście, z innego folderu: %1</translation>
+    </message>
+    <message>
+        <source>In the list already, from other folders: %1 recordings</source>
+        <translation>Już na liście, z innych folderów, liczba nagrań: %1</translation>
+    </message>
+</context>
+<context>
+    <name>PlaylistMenu</name>
+    <message>
+        <source>Play</source>
+        <translation>Odtwórz</translation>
+    </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>Otwórz folder</translation>
+    </message>
+    <message>
+        <source>Copy Name</source>
+        <translation>Kopiuj nazwę</translation>
+    </message>
+    <message>
+        <source>Clear List</source>
+        <translation>Wyczyść listę</translation>
+    </message>
+    <message>
+        <source>Remember List</source>
+        <translation>Zapamiętaj listę</translation>
+    </message>
+    <message>
+        <source>The folder %1 is gone</source>
+        <translation>Folder %1 już nie istnieje</translation>
+    </message>
+    <message>
+        <source>No program opens the folder %1</source>
+        <translation>Żaden program nie otwiera folderu %1</translation>
+    </message>
+</context>
+<context>
+    <name>OpenMenu</name>
+    <message>
+        <source>Open Files…</source>
+        <translation>Otwórz pliki…</translation>
+    </message>
+    <message>
+        <source>Open All in a Folder…</source>
+        <translation>Otwórz wszystkie z folderu…</translation>
+    </message>
+</context>
+<context>
+    <name>ResumeOffer</name>
+    <message>
+        <source>Continue %1 at %2?</source>
+        <translation>Kontynuować %1 od %2?</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Kontynuuj</translation>
+    </message>
+    <message>
+        <source>Continue (R)</source>
+        <translation>Kontynuuj (R)</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>Odrzuć</translation>
     </message>
 </context>
 </TS>

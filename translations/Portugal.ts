@@ -191,6 +191,10 @@
         <source>Playback controls</source>
         <translation>Controlos de reprodução</translation>
     </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>Abrir pasta</translation>
+    </message>
 </context>
 <context>
     <name>PlaybackNotices</name>
@@ -555,6 +559,110 @@
     <message>
         <source>Back or forward by a picture, paused</source>
         <translation>Um fotograma para trás ou para a frente, em pausa</translation>
+    </message>
+    <message>
+        <source>Open all recordings in a folder</source>
+        <translation>Abrir todas as gravações de uma pasta</translation>
+    </message>
+    <message>
+        <source>Continue the recording that is offered</source>
+        <translation>Continuar a gravação proposta</translation>
+    </message>
+    <message>
+        <source>Menu of the list</source>
+        <translation>Menu da lista</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Menu</translation>
+    </message>
+</context>
+<context>
+    <name>RecordingOpener</name>
+    <message>
+        <source>No recordings in %1</source>
+        <translation>Não há gravações em %1</translation>
+    </message>
+    <message>
+        <source>Only the first %1 recordings were opened</source>
+        <translation>Só foram abertas as primeiras %1 gravações</translation>
+    </message>
+    <message>
+        <source>Searching for recordings: %1 (Esc cancels)</source>
+        <translation>A procurar gravações: %1 (Esc cancela)</translation>
+    </message>
+    <message>
+        <source>In the list already, from another folder: %1</source>
+        <translation>Já na lista, de outra pasta: %1</translation>
+    </message>
+    <message>
+        <source>In the list already, from other folders: %1 recordings</source>
+        <translation>Já na lista, de outras pastas: %1 gravações</translation>
+    </message>
+</context>
+<context>
+    <name>PlaylistMenu</name>
+    <message>
+        <source>Play</source>
+        <translation>Reproduzir</translation>
+    </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>Abrir pasta</translation>
+    </message>
+    <message>
+        <source>Copy Name</source>
+        <translation>Copiar nome</translation>
+    </message>
+    <message>
+        <source>Clear List</source>
+        <translation>Limpar lista</translation>
+    </message>
+    <message>
+        <source>Remember List</source>
+        <translation>Memorizar lista</translation>
+    </message>
+    <message>
+        <source>The folder %1 is gone</source>
+        <translation>A pasta %1 já não existe</translation>
+    </message>
+    <message>
+        <source>No program opens the folder %1</source>
+        <translation>Nenhum programa abre a pasta %1</translation>
+    </message>
+</context>
+<context>
+    <name>OpenMenu</name>
+    <message>
+        <source>Open Files…</source>
+        <translation>Abrir ficheiros…</translation>
+    </message>
+    <message>
+        <source>Open All in a Folder…</source>
+        <translation>Abrir tudo de uma pasta…</translation>
+    </message>
+</context>
+<context>
+    <name>ResumeOffer</name>
+    <message>
+        <source>Continue %1 at %2?</source>
+        <translation>Continuar %1 em %2?</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Continuar</translation>
+    </message>
+    <message>
+        <source>Continue (R)</source>
+        <translation>Continuar (R)</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>Ignorar</translation>
     </message>
 </context>
 </TS>

@@ -191,6 +191,10 @@
         <source>Playback controls</source>
         <translation>Управление воспроизведением</translation>
     </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>Открыть папку</translation>
+    </message>
 </context>
 <context>
     <name>PlaybackNotices</name>
@@ -555,6 +559,110 @@
     <message>
         <source>Back or forward by a picture, paused</source>
         <translation>На кадр назад или вперёд, на паузе</translation>
+    </message>
+    <message>
+        <source>Open all recordings in a folder</source>
+        <translation>Открыть все записи из папки</translation>
+    </message>
+    <message>
+        <source>Continue the recording that is offered</source>
+        <translation>Продолжить предложенную запись</translation>
+    </message>
+    <message>
+        <source>Menu of the list</source>
+        <translation>Меню списка</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Menu</translation>
+    </message>
+</context>
+<context>
+    <name>RecordingOpener</name>
+    <message>
+        <source>No recordings in %1</source>
+        <translation>В папке %1 нет записей</translation>
+    </message>
+    <message>
+        <source>Only the first %1 recordings were opened</source>
+        <translation>Открыты только первые записи: %1</translation>
+    </message>
+    <message>
+        <source>Searching for recordings: %1 (Esc cancels)</source>
+        <translation>Поиск записей: %1 (Esc — отмена)</translation>
+    </message>
+    <message>
+        <source>In the list already, from another folder: %1</source>
+        <translation>Уже в списке, из другой папки: %1</translation>
+    </message>
+    <message>
+        <source>In the list already, from other folders: %1 recordings</source>
+        <translation>Уже в списке, из других папок, записей: %1</translation>
+    </message>
+</context>
+<context>
+    <name>PlaylistMenu</name>
+    <message>
+        <source>Play</source>
+        <translation>Воспроизвести</translation>
+    </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>Открыть папку</translation>
+    </message>
+    <message>
+        <source>Copy Name</source>
+        <translation>Копировать имя</translation>
+    </message>
+    <message>
+        <source>Clear List</source>
+        <translation>Очистить список</translation>
+    </message>
+    <message>
+        <source>Remember List</source>
+        <translation>Запоминать список</translation>
+    </message>
+    <message>
+        <source>The folder %1 is gone</source>
+        <translation>Папки %1 больше нет</translation>
+    </message>
+    <message>
+        <source>No program opens the folder %1</source>
+        <translation>Нет программы, которая открывает папку %1</translation>
+    </message>
+</context>
+<context>
+    <name>OpenMenu</name>
+    <message>
+        <source>Open Files…</source>
+        <translation>Открыть файлы…</translation>
+    </message>
+    <message>
+        <source>Open All in a Folder…</source>
+        <translation>Открыть всё из папки…</translation>
+    </message>
+</context>
+<context>
+    <name>ResumeOffer</name>
+    <message>
+        <source>Continue %1 at %2?</source>
+        <translation>Продолжить %1 с %2?</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Продолжить</translation>
+    </message>
+    <message>
+        <source>Continue (R)</source>
+        <translation>Продолжить (R)</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>Отклонить</translation>
     </message>
 </context>
 </TS>

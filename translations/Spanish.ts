@@ -191,6 +191,10 @@
         <source>Playback controls</source>
         <translation>Controles de reproducción</translation>
     </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>Abrir carpeta</translation>
+    </message>
 </context>
 <context>
     <name>PlaybackNotices</name>
@@ -555,6 +559,110 @@
     <message>
         <source>Back or forward by a picture, paused</source>
         <translation>Un fotograma atrás o adelante, en pausa</translation>
+    </message>
+    <message>
+        <source>Open all recordings in a folder</source>
+        <translation>Abrir todas las grabaciones de una carpeta</translation>
+    </message>
+    <message>
+        <source>Continue the recording that is offered</source>
+        <translation>Continuar la grabación propuesta</translation>
+    </message>
+    <message>
+        <source>Menu of the list</source>
+        <translation>Menú de la lista</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Mayús</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Menú</translation>
+    </message>
+</context>
+<context>
+    <name>RecordingOpener</name>
+    <message>
+        <source>No recordings in %1</source>
+        <translation>No hay grabaciones en %1</translation>
+    </message>
+    <message>
+        <source>Only the first %1 recordings were opened</source>
+        <translation>Solo se han abierto las primeras %1 grabaciones</translation>
+    </message>
+    <message>
+        <source>Searching for recordings: %1 (Esc cancels)</source>
+        <translation>Buscando grabaciones: %1 (Esc cancela)</translation>
+    </message>
+    <message>
+        <source>In the list already, from another folder: %1</source>
+        <translation>Ya está en la lista, de otra carpeta: %1</translation>
+    </message>
+    <message>
+        <source>In the list already, from other folders: %1 recordings</source>
+        <translation>Ya están en la lista, de otras carpetas: %1 grabaciones</translation>
+    </message>
+</context>
+<context>
+    <name>PlaylistMenu</name>
+    <message>
+        <source>Play</source>
+        <translation>Reproducir</translation>
+    </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>Abrir carpeta</translation>
+    </message>
+    <message>
+        <source>Copy Name</source>
+        <translation>Copiar nombre</translation>
+    </message>
+    <message>
+        <source>Clear List</source>
+        <translation>Vaciar lista</translation>
+    </message>
+    <message>
+        <source>Remember List</source>
+        <translation>Recordar lista</translation>
+    </message>
+    <message>
+        <source>The folder %1 is gone</source>
+        <translation>La carpeta %1 ya no existe</translation>
+    </message>
+    <message>
+        <source>No program opens the folder %1</source>
+        <translation>Ningún programa abre la carpeta %1</translation>
+    </message>
+</context>
+<context>
+    <name>OpenMenu</name>
+    <message>
+        <source>Open Files…</source>
+        <translation>Abrir archivos…</translation>
+    </message>
+    <message>
+        <source>Open All in a Folder…</source>
+        <translation>Abrir todo de una carpeta…</translation>
+    </message>
+</context>
+<context>
+    <name>ResumeOffer</name>
+    <message>
+        <source>Continue %1 at %2?</source>
+        <translation>¿Continuar %1 en %2?</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Continuar</translation>
+    </message>
+    <message>
+        <source>Continue (R)</source>
+        <translation>Continuar (R)</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>Descartar</translation>
     </message>
 </context>
 </TS>
