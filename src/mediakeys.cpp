@@ -15,7 +15,8 @@ using Command = void (PlaybackRemote::*)();
 Command commandOf(int key)
 {
     static const QHash<int, Command> Commands = {
-        {Qt::Key_MediaPlay, &PlaybackRemote::play},
+        // The key with both signs, which most keyboards have, is this one under X11.
+        {Qt::Key_MediaPlay, &PlaybackRemote::playOrPause},
         {Qt::Key_MediaPause, &PlaybackRemote::pause},
         {Qt::Key_MediaTogglePlayPause, &PlaybackRemote::playOrPause},
         {Qt::Key_MediaStop, &PlaybackRemote::stop},

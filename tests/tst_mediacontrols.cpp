@@ -520,6 +520,7 @@ void tst_MediaControls::keys_data()
     QTest::addColumn<QString>("expected");
     QTest::newRow("pause") << Playing << 0 << int(Qt::Key_MediaPause) << "paused 0";
     QTest::newRow("play") << Paused << 0 << int(Qt::Key_MediaPlay) << "playing 0";
+    QTest::newRow("play and pause") << Playing << 0 << int(Qt::Key_MediaPlay) << "paused 0";
     QTest::newRow("toggle") << Playing << 0 << int(Qt::Key_MediaTogglePlayPause) << "paused 0";
     QTest::newRow("next") << Playing << 0 << int(Qt::Key_MediaNext) << "playing 1";
     QTest::newRow("previous") << Playing << 1 << int(Qt::Key_MediaPrevious) << "playing 0";
