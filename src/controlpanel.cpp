@@ -75,6 +75,11 @@ int ControlPanel::volume() const
                            QAudio::LinearVolumeScale);
 }
 
+int ControlPanel::volumePercent() const
+{
+    return mUi->hSlider_Volume->value();
+}
+
 double ControlPanel::playbackRate() const
 {
     return mUi->fcbox_Rate->itemData(mUi->fcbox_Rate->currentIndex()).toDouble();

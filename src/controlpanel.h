@@ -32,6 +32,8 @@ public:
     QMediaPlayer::State state() const { return mState; }
     /** 0 to 100 on the players' linear scale. */
     int volume() const;
+    /** How much of its way the volume's handle has gone, in percent. */
+    int volumePercent() const;
     bool isMuted() const { return mMuted; }
     /** The selected rate, 1 for normal speed. */
     double playbackRate() const;

@@ -7,8 +7,11 @@
 #include "languagefont.h"
 #include "macnosleeper.h"
 #include "mainwindows.h"
+#include "mediacontrols.h"
+#include "mediakeys.h"
 #include "playbackmemory.h"
 #include "playlistmemory.h"
+#include "playbackremote.h"
 #include "runningwindow.h"
 #include "terminationwatch.h"
 #include "windowclaim.h"
@@ -137,6 +140,11 @@ int main(int argc, char *argv[])
     MainWindows window;
     const PlaybackMemory playbackMemory(&window);
     PlaylistMemory playlistMemory(&window);
+    PlaybackRemote remote(&window);
+    const MediaKeys mediaKeys(&remote);
+    const MediaControls mediaControls(&remote);
+    QObject::connect(&mediaControls, &MediaControls::quitRequested, &window,
+                     [&window] { closeProgram(&window); });
     const TerminationWatch termination;
     QObject::connect(&termination, &TerminationWatch::requested, &window,
                      [&window] { closeProgram(&window); });

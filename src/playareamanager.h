@@ -56,6 +56,8 @@ public:
     /** Shows the picture so many frames after the present one, or before it if negative, of the
      *  paused recording. One that plays is only paused. */
     void stepFrames(int frames);
+    /** To a position within the recording, playing or paused as before. */
+    void seekToMs(qint64 positionMs) { seekBoth(positionMs); }
     /** From the beginning, playing or paused as before. */
     void seekToStart();
     /** Pauses shortly before the end, which would start the next recording. */
