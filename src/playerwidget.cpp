@@ -3,6 +3,7 @@
 #include "playerwidget.h"
 
 #include "capturethread.h"
+#include "keyboardclaim.h"
 #include "mediaurl.h"
 #include "picturenotice.h"
 #include "windowhandover.h"
@@ -199,15 +200,21 @@ void PlayerWidget::changeFullScreen(bool isFull)
     emit fullScreen(isFull);
     const QWindow *before = window()->windowHandle();
     const QScreen *screen = before ? before->screen() : QGuiApplication::primaryScreen();
+    // One that ends because another program has the keyboard does not take it back.
+    const bool isUsed = QGuiApplication::applicationState() == Qt::ApplicationActive;
     if (!isFull)
         withdraw();
     setFullScreen(isFull);
-    if (!isFull)
+    if (!isFull) {
+        if (isUsed && parentWidget())
+            KeyboardClaim::make(window(), this);
         return;
+    }
     // Where no window manager does it; the widget's own setGeometry() would end the state.
     windowHandle()->setGeometry(screen->geometry());
     raise();
     activateWindow();
+    KeyboardClaim::make(this);
 }
 
 /** Takes the full screen off the display, so that it can become a part of the main window again. */

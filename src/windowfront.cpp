@@ -78,6 +78,11 @@ void bringToFront(QWidget *window)
 {
     window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
     window->raise();
+    askForKeyboard(window);
+}
+
+void askForKeyboard(QWidget *window)
+{
     window->activateWindow();
 #ifdef TALVOR_WITH_X11
     if (QGuiApplication::platformName() == QLatin1String("xcb"))

@@ -8,6 +8,10 @@ class QWidget;
  *  what the user has done elsewhere, such as in a file manager. GUI thread. */
 void bringToFront(QWidget *window);
 
+/** Asks for the keyboard on behalf of the user, whatever time the program was last used at. It
+ * comes when the window manager gives it. GUI thread. */
+void askForKeyboard(QWidget *window);
+
 /** Tells the desktop that this start is over without a window. Otherwise it would show for a while
  *  that the program is starting. Needs no application object. */
 void endStartNotice();

@@ -11,6 +11,8 @@
 
 #include <poll.h>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int KeyboardMs = 300;
@@ -20,21 +22,51 @@ using Xcb::Owned;
 /** Not Qt's own connection: the events that are waited for would be missing there. */
 using Xcb::Connection;
 
-/** The manager has put the window out of its frame, and says that it no longer keeps it. */
-bool isWithdrawn(xcb_connection_t *connection, xcb_window_t window)
+Owned<xcb_query_tree_reply_t> treeOf(xcb_connection_t *connection, xcb_window_t window)
+{
+    return Owned<xcb_query_tree_reply_t>(
+        xcb_query_tree_reply(connection, xcb_query_tree(connection, window), nullptr));
+}
+
+/** Whether the manager says that it keeps the window. */
+bool isKept(xcb_connection_t *connection, xcb_window_t window)
 {
     constexpr quint32 withdrawn = 0;
     const xcb_atom_t atom = Xcb::atom(connection, "WM_STATE");
-    const Owned<xcb_query_tree_reply_t> tree(
-        xcb_query_tree_reply(connection, xcb_query_tree(connection, window), nullptr));
     const Owned<xcb_get_property_reply_t> state(xcb_get_property_reply(
         connection, xcb_get_property(connection, 0, window, atom, atom, 0, 1), nullptr));
-    if (!tree || !state)
+    return state && xcb_get_property_value_length(state.get()) == sizeof withdrawn &&
+           std::memcmp(xcb_get_property_value(state.get()), &withdrawn, sizeof withdrawn) != 0;
+}
+
+/** The manager has put the window out of its frame, and says that it no longer keeps it. */
+bool isWithdrawn(xcb_connection_t *connection, xcb_window_t window)
+{
+    const Owned<xcb_query_tree_reply_t> tree = treeOf(connection, window);
+    if (!tree)
         return true; // the window or the connection is gone
-    const bool isKept =
-        xcb_get_property_value_length(state.get()) == sizeof withdrawn &&
-        std::memcmp(xcb_get_property_value(state.get()), &withdrawn, sizeof withdrawn) != 0;
-    return tree->parent == tree->root && !isKept;
+    return tree->parent == tree->root && !isKept(connection, window);
+}
+
+/** The window or the nearest one around it that the manager keeps, or that belongs to nobody but
+ *  the manager: then XCB_NONE. */
+xcb_window_t keptWindow(xcb_connection_t *connection, xcb_window_t window)
+{
+    while (!isKept(connection, window)) {
+        const Owned<xcb_query_tree_reply_t> tree = treeOf(connection, window);
+        if (!tree || tree->parent == tree->root || tree->parent == XCB_NONE)
+            return XCB_NONE;
+        window = tree->parent;
+    }
+    return window;
+}
+
+bool isOfThisProgram(xcb_window_t id)
+{
+    const QWindowList windows = QGuiApplication::topLevelWindows();
+    return std::any_of(windows.begin(), windows.end(), [id](const QWindow *window) {
+        return window->handle() && xcb_window_t(window->winId()) == id;
+    });
 }
 
 bool hasKeyboard(xcb_connection_t *connection, xcb_window_t window)
@@ -77,7 +109,65 @@ void waitForWithdrawal(const QWindow &window)
     waitUntil(isWithdrawn, window, WithdrawalMs);
 }
 
+KeyboardHolder keyboardHolder(const QWindow &window)
+{
+    const Connection connection(xcb_connect(nullptr, nullptr));
+    const Owned<xcb_get_input_focus_reply_t> focus(xcb_get_input_focus_reply(
+        connection.get(), xcb_get_input_focus(connection.get()), nullptr));
+    if (!focus)
+        return KeyboardHolder::OtherProgram;
+    if (focus->focus == xcb_window_t(window.winId()))
+        return KeyboardHolder::Window;
+    if (focus->focus == XCB_NONE || focus->focus == XCB_INPUT_FOCUS_POINTER_ROOT)
+        return KeyboardHolder::Nobody;
+    const xcb_window_t holder = keptWindow(connection.get(), focus->focus);
+    const bool isOther = holder != XCB_NONE && !isOfThisProgram(holder);
+    return isOther ? KeyboardHolder::OtherProgram : KeyboardHolder::Nobody;
+}
+
+bool isLetGo(const QWindow &window)
+{
+    const Connection connection(xcb_connect(nullptr, nullptr));
+    return !isKept(connection.get(), xcb_window_t(window.winId()));
+}
+
+bool putBack(const QWindow &window)
+{
+    const Connection connection(xcb_connect(nullptr, nullptr));
+    const auto id = xcb_window_t(window.winId());
+    const Owned<xcb_query_tree_reply_t> tree = treeOf(connection.get(), id);
+    const Owned<xcb_get_window_attributes_reply_t> attributes(xcb_get_window_attributes_reply(
+        connection.get(), xcb_get_window_attributes(connection.get(), id), nullptr));
+    const auto parent = window.parent() ? xcb_window_t(window.parent()->winId()) : XCB_NONE;
+    if (!tree || !attributes || parent == XCB_NONE)
+        return true;
+    const bool isHidden = window.isVisible() && attributes->map_state == XCB_MAP_STATE_UNMAPPED;
+    if (tree->parent == parent && !isHidden)
+        return true;
+    const QPoint place = window.position() * window.devicePixelRatio();
+    xcb_reparent_window(connection.get(), id, parent, qint16(place.x()), qint16(place.y()));
+    if (window.isVisible())
+        xcb_map_window(connection.get(), id);
+    xcb_flush(connection.get());
+    return false;
+}
+
 #else
+
+KeyboardHolder keyboardHolder(const QWindow &)
+{
+    return KeyboardHolder::OtherProgram;
+}
+
+bool isLetGo(const QWindow &)
+{
+    return true;
+}
+
+bool putBack(const QWindow &)
+{
+    return true;
+}
 
 void waitForKeyboard(const QWindow &) {}
 

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Quellfern
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "configuration.h"
+#include "keyboardclaim.h"
 #include "mainwindows.h"
 #include "mediafile.h"
 #include "patience.h"
@@ -16,6 +17,7 @@
 #include <QWebEngineView>
 #include <QWindow>
 
+#include <csignal>
 #include <memory>
 
 namespace {
@@ -102,6 +104,8 @@ private slots:
     void cleanup();
 
     void fullScreenAndBack();
+    void fullScreenAndBackWhileTheManagerIsBusy_data();
+    void fullScreenAndBackWhileTheManagerIsBusy();
     void quickHands();
     void fullScreenYieldsToOtherPrograms();
     void managerEndsFullScreen();
@@ -124,6 +128,7 @@ private:
     PlayAreaManager *area() const { return child<PlayAreaManager>("wgt_PlayArea"); }
     PlayerWidget *player() const { return area()->mainPlayer(); }
     void enterFullScreen();
+    bool isHandedOver() const;
 
     QTemporaryDir mFolder;
     std::unique_ptr<MainWindows> mWindow;
@@ -175,8 +180,14 @@ void tst_Windows::pauseAt(int second)
 void tst_Windows::enterFullScreen()
 {
     clickAt(onScreen(player()).center(), 2);
-    QTRY_VERIFY(player()->isFullScreen() && player()->isActiveWindow());
+    QTRY_VERIFY(player()->isFullScreen() && isHandedOver() && player()->isActiveWindow());
     QTRY_COMPARE(onScreen(player()), WholeScreen);
+}
+
+/** Whether nobody waits for the window manager any more. Before, keys may go nowhere. */
+bool tst_Windows::isHandedOver() const
+{
+    return !mWindow->findChild<KeyboardClaim *>();
 }
 
 void tst_Windows::fullScreenAndBack()
@@ -193,7 +204,7 @@ void tst_Windows::fullScreenAndBack()
             QTRY_COMPARE(onScreen(widget), WholeScreen);
             QVERIFY(widget->isFullScreen());
             QTRY_VERIFY(map->width() < mapPlace.width()); // parked
-            QTRY_VERIFY(widget->isActiveWindow());
+            QTRY_VERIFY(isHandedOver() && widget->isActiveWindow());
             xdotool(QStringLiteral("key Right")); // it has the keyboard
             QTRY_COMPARE(second(), 6);
             xdotool(QStringLiteral("key Left"));
@@ -204,13 +215,51 @@ void tst_Windows::fullScreenAndBack()
             QTRY_COMPARE(onScreen(widget), place);
             QTRY_VERIFY(alike(fieldsOf(widget), fields));
             QTRY_COMPARE(map->geometry(), mapPlace);
-            QTRY_VERIFY(mWindow->isActiveWindow());
+            QTRY_VERIFY(isHandedOver() && mWindow->isActiveWindow());
             xdotool(QStringLiteral("key Right")); // and the main window has it back
             QTRY_COMPARE(second(), 6);
             xdotool(QStringLiteral("key Left"));
             QTRY_COMPARE(second(), 5);
         }
     }
+}
+
+void tst_Windows::fullScreenAndBackWhileTheManagerIsBusy_data()
+{
+    QTest::addColumn<bool>("isBusyAtTheEnd");
+    QTest::newRow("at the beginning") << false;
+    QTest::newRow("at the end") << true;
+}
+
+/** For longer than the program waits for it without processing events. */
+void tst_Windows::fullScreenAndBackWhileTheManagerIsBusy()
+{
+    QFETCH(bool, isBusyAtTheEnd);
+    const pid_t manager = qEnvironmentVariableIntValue("TALVOR_WINDOW_MANAGER_PID");
+    QVERIFY(manager > 0);
+    playPair();
+    pauseAt(5);
+    const QRect place = onScreen(player());
+    const QImage fields = fieldsOf(player());
+    enterFullScreen();
+    if (!isBusyAtTheEnd) {
+        player()->leaveFullScreen();
+        ::kill(manager, SIGSTOP);
+        player()->enterFullScreen();
+        QTest::qWait(500);
+        ::kill(manager, SIGCONT);
+        QTRY_VERIFY(isHandedOver() && player()->isActiveWindow());
+    }
+    if (isBusyAtTheEnd)
+        ::kill(manager, SIGSTOP);
+    xdotool(QStringLiteral("key Escape"));
+    QTRY_VERIFY(!player()->isFullScreen() && !player()->isWindow());
+    ::kill(manager, SIGCONT);
+    QTRY_VERIFY(isHandedOver() && mWindow->isActiveWindow());
+    QTRY_COMPARE(onScreen(player()), place);
+    QTRY_VERIFY(alike(fieldsOf(player()), fields));
+    xdotool(QStringLiteral("key Right"));
+    QTRY_COMPARE(second(), 6);
 }
 
 void tst_Windows::quickHands()
@@ -222,9 +271,10 @@ void tst_Windows::quickHands()
     for (int i = 0; i < 3; ++i) {
         QSignalSpy changes(player(), &PlayerWidget::fullScreen);
         clickAt(place.center(), 4); // to full screen, and back unless a click met neither window
-        QTRY_VERIFY(!changes.isEmpty());
+        QTRY_VERIFY(!changes.isEmpty() && isHandedOver());
         xdotool(QStringLiteral("key Escape"));
         QTRY_COMPARE(onScreen(player()), place);
+        QTRY_VERIFY(isHandedOver());
         QTRY_VERIFY(alike(fieldsOf(player()), fields));
     }
     QCOMPARE(mWindow->geometry(), StoredRect); // not dragged along
@@ -282,10 +332,10 @@ void tst_Windows::fullScreenEndsWithItsPicture()
 {
     playPair();
     clickAt(onScreen(area()->secondPlayer()).center(), 2);
-    QTRY_VERIFY(area()->secondPlayer()->isFullScreen() && area()->secondPlayer()->isActiveWindow());
+    QTRY_VERIFY(area()->secondPlayer()->isFullScreen() && isHandedOver());
     mWindow->openRecordings({QUrl::fromLocalFile(mFolder.filePath(QStringLiteral("single.mp4")))});
     QTRY_VERIFY(!area()->secondPlayer() && area()->state() == QMediaPlayer::PlayingState);
-    QTRY_VERIFY(mWindow->isActiveWindow());
+    QTRY_VERIFY(isHandedOver() && mWindow->isActiveWindow());
     xdotool(QStringLiteral("key space"));
     QTRY_COMPARE(area()->state(), QMediaPlayer::PausedState);
 }

@@ -5,7 +5,8 @@
 # Runs a command on a virtual display of its own, with a window manager:
 #   tools/with-display.sh [-m MANAGER] [-s WIDTHxHEIGHT] COMMAND [ARGUMENT...]
 # MANAGER is openbox (the default), metacity, mutter, xfwm4, or none; the screen has 1600x1000
-# pixels unless told otherwise. The command finds the manager's name in TALVOR_WINDOW_MANAGER.
+# pixels unless told otherwise. The command finds the manager's name in TALVOR_WINDOW_MANAGER, and
+# its process in TALVOR_WINDOW_MANAGER_PID.
 # Several may run at once: the X server picks a free display. Exits with the command's status.
 set -eu
 
@@ -94,6 +95,7 @@ announced() {
 }
 [ -z "$manage" ] || wait_for 60 announced ||
     { echo "with-display: the window manager did not start:" >&2; cat "$work/manager.log" >&2; exit 1; }
+export TALVOR_WINDOW_MANAGER_PID="$manager"
 
 # The web engine's sandbox refuses to run for root.
 [ "$(id -u)" -ne 0 ] || export QTWEBENGINE_DISABLE_SANDBOX=1
