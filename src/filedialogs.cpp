@@ -11,6 +11,8 @@ namespace {
 // part in parentheses is what files are compared with; only the part before it is shown.
 const char RecordingsFilter[] = "*.mov *.mp4 *.avi (*.[mM][oO][vV] *.[mM][pP]4 *.[aA][vV][iI])";
 
+const char TrackFilters[] = "GPX (*.gpx);;CSV (*.csv);;GeoJSON (*.geojson);;JSON (*.json)";
+
 QString nearestExisting(QString folder)
 {
     folder = QDir::cleanPath(folder);
@@ -40,4 +42,18 @@ QString askForFolder(QWidget *parent, const QString &title, const QString &start
     return QFileDialog::getExistingDirectory(parent, title, nearestExisting(startFolder),
                                              QFileDialog::ShowDirsOnly |
                                                  QFileDialog::DontResolveSymlinks);
+}
+
+QString askForTrackFile(QWidget *parent, const QString &title, const QString &file)
+{
+    QFileDialog dialog(parent, title, nearestExisting(QFileInfo(file).path()),
+                       QLatin1String(TrackFilters));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.selectFile(QFileInfo(file).fileName());
+    const auto useSuffix = [&dialog](const QString &filter) {
+        dialog.setDefaultSuffix(filter.section(QLatin1String("*."), 1).chopped(1));
+    };
+    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, useSuffix);
+    useSuffix(dialog.selectedNameFilter());
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }

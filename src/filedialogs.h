@@ -16,3 +16,7 @@ QList<QUrl> askForRecordings(QWidget *parent, const QString &title, const QStrin
 
 /** The folder that the user chose; empty when he thought better of it. */
 QString askForFolder(QWidget *parent, const QString &title, const QString &startFolder);
+
+/** The file that the user chose for a track, with the suffix of its format; empty when he thought
+ *  better of it. @p file is proposed; one that is there is only chosen after a question. */
+QString askForTrackFile(QWidget *parent, const QString &title, const QString &file);

@@ -27,4 +27,5 @@ OpeningPlaces::OpeningPlaces(MainWindows *window, const Widgets &widgets, Playli
     connect(listMenu, &PlaylistMenu::playRequested, window, &MainWindows::onTableDoubleClicked);
     connect(listMenu, &PlaylistMenu::clearRequested, window, &MainWindows::clearList);
     connect(listMenu, &PlaylistMenu::failed, opener, &RecordingOpener::tell);
+    connect(listMenu, &PlaylistMenu::saved, opener, &RecordingOpener::tell);
 }

@@ -7,6 +7,7 @@
 #include "playlistmodel.h"
 #include "rememberedlist.h"
 #include "rowdata.h"
+#include "trackmenu.h"
 
 #include <QClipboard>
 #include <QContextMenuEvent>
@@ -18,8 +19,9 @@
 #include <QTableView>
 
 PlaylistMenu::PlaylistMenu(QTableView *table, PlaylistModel *model)
-    : QObject(table), mTable(table), mModel(model)
+    : QObject(table), mTable(table), mModel(model), mTracks(new TrackMenu(table->window(), model))
 {
+    connect(mTracks, &TrackMenu::saved, this, &PlaylistMenu::saved);
     mTable->viewport()->installEventFilter(this);
 }
 
@@ -68,6 +70,7 @@ void PlaylistMenu::addRecordingEntries(QMenu *menu, const QModelIndex &index)
     };
     for (QAction *entry : entries)
         entry->setEnabled(row);
+    mTracks->addEntries(menu, row);
 }
 
 void PlaylistMenu::addListEntries(QMenu *menu)

@@ -9,6 +9,7 @@
 class PlaylistModel;
 class QMenu;
 class QTableView;
+class TrackMenu;
 
 /**
  * The context menu of the playlist: what can be done with the recording under the pointer, and with
@@ -32,6 +33,8 @@ signals:
     void clearRequested();
     /** What was asked for could not be done; for the user's eyes. */
     void failed(const QString &notice);
+    /** A track has been saved; for the user's eyes. */
+    void saved(const QString &notice);
 
 protected:
     bool eventFilter(QObject *object, QEvent *event) override;
@@ -45,4 +48,5 @@ private:
 
     QTableView *mTable = nullptr; // the parent
     PlaylistModel *mModel = nullptr;
+    TrackMenu *mTracks = nullptr; // a child of the window
 };

@@ -665,4 +665,31 @@
         <translation>关闭</translation>
     </message>
 </context>
+<context>
+    <name>TrackMenu</name>
+    <message>
+        <source>Save Track As…</source>
+        <translation>轨迹另存为…</translation>
+    </message>
+    <message>
+        <source>Copy Position</source>
+        <translation>复制位置</translation>
+    </message>
+    <message>
+        <source>Track saved: %1</source>
+        <translation>轨迹已保存：%1</translation>
+    </message>
+    <message>
+        <source>The recording cannot be read.</source>
+        <translation>无法读取该录像。</translation>
+    </message>
+    <message>
+        <source>The recording has no telemetry.</source>
+        <translation>该录像没有遥测数据。</translation>
+    </message>
+    <message>
+        <source>The track cannot be written to %1: %2</source>
+        <translation>无法将轨迹写入 %1：%2</translation>
+    </message>
+</context>
 </TS>

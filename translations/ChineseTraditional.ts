@@ -665,4 +665,31 @@
         <translation>關閉</translation>
     </message>
 </context>
+<context>
+    <name>TrackMenu</name>
+    <message>
+        <source>Save Track As…</source>
+        <translation>軌跡另存新檔…</translation>
+    </message>
+    <message>
+        <source>Copy Position</source>
+        <translation>複製位置</translation>
+    </message>
+    <message>
+        <source>Track saved: %1</source>
+        <translation>已儲存軌跡：%1</translation>
+    </message>
+    <message>
+        <source>The recording cannot be read.</source>
+        <translation>無法讀取該錄影。</translation>
+    </message>
+    <message>
+        <source>The recording has no telemetry.</source>
+        <translation>該錄影沒有遙測資料。</translation>
+    </message>
+    <message>
+        <source>The track cannot be written to %1: %2</source>
+        <translation>無法將軌跡寫入 %1：%2</translation>
+    </message>
+</context>
 </TS>

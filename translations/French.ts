@@ -665,4 +665,31 @@
         <translation>Ignorer</translation>
     </message>
 </context>
+<context>
+    <name>TrackMenu</name>
+    <message>
+        <source>Save Track As…</source>
+        <translation>Enregistrer le trajet sous…</translation>
+    </message>
+    <message>
+        <source>Copy Position</source>
+        <translation>Copier la position</translation>
+    </message>
+    <message>
+        <source>Track saved: %1</source>
+        <translation>Trajet enregistré : %1</translation>
+    </message>
+    <message>
+        <source>The recording cannot be read.</source>
+        <translation>L’enregistrement est illisible.</translation>
+    </message>
+    <message>
+        <source>The recording has no telemetry.</source>
+        <translation>L’enregistrement ne contient pas de télémétrie.</translation>
+    </message>
+    <message>
+        <source>The track cannot be written to %1: %2</source>
+        <translation>Impossible d’écrire le trajet dans %1 : %2</translation>
+    </message>
+</context>
 </TS>

@@ -665,4 +665,31 @@
         <translation>Verwerfen</translation>
     </message>
 </context>
+<context>
+    <name>TrackMenu</name>
+    <message>
+        <source>Save Track As…</source>
+        <translation>Strecke speichern unter …</translation>
+    </message>
+    <message>
+        <source>Copy Position</source>
+        <translation>Position kopieren</translation>
+    </message>
+    <message>
+        <source>Track saved: %1</source>
+        <translation>Strecke gespeichert: %1</translation>
+    </message>
+    <message>
+        <source>The recording cannot be read.</source>
+        <translation>Die Aufnahme lässt sich nicht lesen.</translation>
+    </message>
+    <message>
+        <source>The recording has no telemetry.</source>
+        <translation>Die Aufnahme hat keine Telemetrie.</translation>
+    </message>
+    <message>
+        <source>The track cannot be written to %1: %2</source>
+        <translation>Die Strecke lässt sich nicht nach %1 schreiben: %2</translation>
+    </message>
+</context>
 </TS>

@@ -665,4 +665,31 @@
         <translation>Ignora</translation>
     </message>
 </context>
+<context>
+    <name>TrackMenu</name>
+    <message>
+        <source>Save Track As…</source>
+        <translation>Salva tracciato con nome…</translation>
+    </message>
+    <message>
+        <source>Copy Position</source>
+        <translation>Copia posizione</translation>
+    </message>
+    <message>
+        <source>Track saved: %1</source>
+        <translation>Tracciato salvato: %1</translation>
+    </message>
+    <message>
+        <source>The recording cannot be read.</source>
+        <translation>Impossibile leggere la registrazione.</translation>
+    </message>
+    <message>
+        <source>The recording has no telemetry.</source>
+        <translation>La registrazione non contiene telemetria.</translation>
+    </message>
+    <message>
+        <source>The track cannot be written to %1: %2</source>
+        <translation>Impossibile scrivere il tracciato in %1: %2</translation>
+    </message>
+</context>
 </TS>

@@ -665,4 +665,31 @@
         <translation>閉じる</translation>
     </message>
 </context>
+<context>
+    <name>TrackMenu</name>
+    <message>
+        <source>Save Track As…</source>
+        <translation>走行軌跡に名前を付けて保存…</translation>
+    </message>
+    <message>
+        <source>Copy Position</source>
+        <translation>位置をコピー</translation>
+    </message>
+    <message>
+        <source>Track saved: %1</source>
+        <translation>走行軌跡を保存しました: %1</translation>
+    </message>
+    <message>
+        <source>The recording cannot be read.</source>
+        <translation>録画を読み取れません。</translation>
+    </message>
+    <message>
+        <source>The recording has no telemetry.</source>
+        <translation>この録画にはテレメトリーがありません。</translation>
+    </message>
+    <message>
+        <source>The track cannot be written to %1: %2</source>
+        <translation>走行軌跡を %1 に書き込めません: %2</translation>
+    </message>
+</context>
 </TS>

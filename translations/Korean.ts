@@ -665,4 +665,31 @@
         <translation>닫기</translation>
     </message>
 </context>
+<context>
+    <name>TrackMenu</name>
+    <message>
+        <source>Save Track As…</source>
+        <translation>경로를 다른 이름으로 저장…</translation>
+    </message>
+    <message>
+        <source>Copy Position</source>
+        <translation>위치 복사</translation>
+    </message>
+    <message>
+        <source>Track saved: %1</source>
+        <translation>경로를 저장했습니다: %1</translation>
+    </message>
+    <message>
+        <source>The recording cannot be read.</source>
+        <translation>녹화 파일을 읽을 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>The recording has no telemetry.</source>
+        <translation>녹화 파일에 텔레메트리가 없습니다.</translation>
+    </message>
+    <message>
+        <source>The track cannot be written to %1: %2</source>
+        <translation>경로를 %1에 쓸 수 없습니다: %2</translation>
+    </message>
+</context>
 </TS>

@@ -665,4 +665,31 @@
         <translation>Odrzuć</translation>
     </message>
 </context>
+<context>
+    <name>TrackMenu</name>
+    <message>
+        <source>Save Track As…</source>
+        <translation>Zapisz trasę jako…</translation>
+    </message>
+    <message>
+        <source>Copy Position</source>
+        <translation>Kopiuj pozycję</translation>
+    </message>
+    <message>
+        <source>Track saved: %1</source>
+        <translation>Zapisano trasę: %1</translation>
+    </message>
+    <message>
+        <source>The recording cannot be read.</source>
+        <translation>Nie można odczytać nagrania.</translation>
+    </message>
+    <message>
+        <source>The recording has no telemetry.</source>
+        <translation>Nagranie nie zawiera telemetrii.</translation>
+    </message>
+    <message>
+        <source>The track cannot be written to %1: %2</source>
+        <translation>Nie można zapisać trasy w %1: %2</translation>
+    </message>
+</context>
 </TS>

@@ -665,4 +665,31 @@
         <translation>Ignorar</translation>
     </message>
 </context>
+<context>
+    <name>TrackMenu</name>
+    <message>
+        <source>Save Track As…</source>
+        <translation>Guardar trajeto como…</translation>
+    </message>
+    <message>
+        <source>Copy Position</source>
+        <translation>Copiar posição</translation>
+    </message>
+    <message>
+        <source>Track saved: %1</source>
+        <translation>Trajeto guardado: %1</translation>
+    </message>
+    <message>
+        <source>The recording cannot be read.</source>
+        <translation>Não é possível ler a gravação.</translation>
+    </message>
+    <message>
+        <source>The recording has no telemetry.</source>
+        <translation>A gravação não tem telemetria.</translation>
+    </message>
+    <message>
+        <source>The track cannot be written to %1: %2</source>
+        <translation>Não é possível escrever o trajeto em %1: %2</translation>
+    </message>
+</context>
 </TS>

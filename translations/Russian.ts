@@ -665,4 +665,31 @@
         <translation>Отклонить</translation>
     </message>
 </context>
+<context>
+    <name>TrackMenu</name>
+    <message>
+        <source>Save Track As…</source>
+        <translation>Сохранить трек как…</translation>
+    </message>
+    <message>
+        <source>Copy Position</source>
+        <translation>Копировать координаты</translation>
+    </message>
+    <message>
+        <source>Track saved: %1</source>
+        <translation>Трек сохранён: %1</translation>
+    </message>
+    <message>
+        <source>The recording cannot be read.</source>
+        <translation>Не удаётся прочитать запись.</translation>
+    </message>
+    <message>
+        <source>The recording has no telemetry.</source>
+        <translation>В записи нет телеметрии.</translation>
+    </message>
+    <message>
+        <source>The track cannot be written to %1: %2</source>
+        <translation>Не удаётся сохранить трек в %1: %2</translation>
+    </message>
+</context>
 </TS>

@@ -665,4 +665,31 @@
         <translation>Descartar</translation>
     </message>
 </context>
+<context>
+    <name>TrackMenu</name>
+    <message>
+        <source>Save Track As…</source>
+        <translation>Guardar recorrido como…</translation>
+    </message>
+    <message>
+        <source>Copy Position</source>
+        <translation>Copiar posición</translation>
+    </message>
+    <message>
+        <source>Track saved: %1</source>
+        <translation>Recorrido guardado: %1</translation>
+    </message>
+    <message>
+        <source>The recording cannot be read.</source>
+        <translation>No se puede leer la grabación.</translation>
+    </message>
+    <message>
+        <source>The recording has no telemetry.</source>
+        <translation>La grabación no tiene telemetría.</translation>
+    </message>
+    <message>
+        <source>The track cannot be written to %1: %2</source>
+        <translation>No se puede escribir el recorrido en %1: %2</translation>
+    </message>
+</context>
 </TS>
