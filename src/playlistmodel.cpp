@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "playlistmodel.h"
 
+#include "recordingcheck.h"
 #include "rowdata.h"
 
 #include <QCoreApplication>
@@ -80,6 +81,8 @@ QVariant PlaylistModel::data(const QModelIndex &index, int role) const
         return QVariant();
     if (role == Qt::TextAlignmentRole)
         return int(Qt::AlignCenter);
+    if (role == ConditionRole)
+        return QVariant::fromValue(row->condition);
     if (role != Qt::DisplayRole)
         return QVariant();
     switch (index.column()) {
@@ -98,7 +101,7 @@ QVariant PlaylistModel::data(const QModelIndex &index, int role) const
     }
 }
 
-QString PlaylistModel::tohumanReadableSize(const qint64 &bytes, int precision) const
+QString PlaylistModel::tohumanReadableSize(const qint64 &bytes, int precision)
 {
     constexpr double OneStep = 0.0009765625; // 1 / 1024
     auto unit = std::begin(SizeUnits);
@@ -156,8 +159,10 @@ void PlaylistModel::setCurPlayPosition(int row, int sampleIndex)
 
 void PlaylistModel::updateAllGpsData(int row)
 {
-    if (RowData *data = getRowData(row))
+    if (RowData *data = getRowData(row)) {
         data->parser.updateAllGpsData();
+        updatePresence(*data);
+    }
 }
 
 int PlaylistModel::addDataByUrl(const QUrl &url)
@@ -231,12 +236,35 @@ void PlaylistModel::onVideoInfoChanged(int id, VideoInfo info)
     emit dataChanged(QModelIndex(), QModelIndex());
 }
 
+void PlaylistModel::onConditionChanged(int id, const RecordingCondition &condition)
+{
+    RowData *row = getRowData(id);
+    if (!row)
+        return;
+    row->condition = condition;
+    emit dataChanged(createIndex(id, 0), createIndex(id, ColumnCount - 1), {ConditionRole});
+}
+
 void PlaylistModel::connectWorker(const RowData &row)
 {
     connect(&row.parser, &VideoParser::videoInfoChanged, this, &PlaylistModel::onVideoInfoChanged);
     connect(&row.parser, &VideoParser::gpsDataChanged, this, &PlaylistModel::gpsDataChanged);
     connect(&row.parser, &VideoParser::allGpsDataParserFinished, this,
             &PlaylistModel::allGpsDataParserFinished);
+    connect(&row.parser, &VideoParser::conditionChanged, this, &PlaylistModel::onConditionChanged);
+}
+
+void PlaylistModel::updatePresence(const RowData &row)
+{
+    if (row.condition.kind == RecordingCondition::Unknown)
+        return; // its worker is about to look
+    const QFileInfo file(row.url.toLocalFile());
+    const bool isThere = file.isFile() && file.isReadable();
+    if (isThere == (row.condition.kind != RecordingCondition::Gone))
+        return;
+    RecordingCondition condition = checkRecording(file.filePath());
+    condition.telemetry = row.condition.telemetry;
+    onConditionChanged(row.id, condition);
 }
 
 RowData *PlaylistModel::findPartnerByEnd(const RowData &main) const

@@ -5,11 +5,14 @@
 #include "aviparser.h"
 #include "mp4parser.h"
 #include "noeventdispatcher.h"
+#include "recordingcheck.h"
 
 #include <QCoreApplication>
 #include <QDebug>
 #include <QSemaphore>
 #include <QTimer>
+
+#include <algorithm>
 
 namespace {
 
@@ -48,11 +51,23 @@ VideoInfo videoInfoOf(const ParserObject &walker)
     return info;
 }
 
+/** Whether a sample has been written by a camera. Whatever lies where a sample could be is decoded,
+ *  such as the sound of any AVI; only cameras put fourteen digits where the time belongs. */
+bool isFromCamera(const GpsData &sample)
+{
+    constexpr int TimeLength = int(sizeof sample.time) - 1;
+    const auto isTime = [](const char *text) {
+        return std::all_of(text, text + TimeLength, [](char c) { return c >= '0' && c <= '9'; });
+    };
+    return isTime(sample.time) || isTime(sample.time2);
+}
+
 } // namespace
 
 VideoParser::VideoParser(QObject *parent) : QThread(parent)
 {
     qRegisterMetaType<VideoInfo>("VideoInfo");
+    qRegisterMetaType<RecordingCondition>("RecordingCondition");
     qRegisterMetaType<GpsData>("GpsData");
     qRegisterMetaType<QList<GpsData>>("QList<GpsData>");
     setStackSize(StackSize);
@@ -112,6 +127,10 @@ void VideoParser::launch()
 void VideoParser::answerWithoutThread()
 {
     qWarning() << "no thread to read the recording with, row:" << id << url.fileName();
+    const auto judge = [this, row = id] {
+        emit conditionChanged(row, checkRecording(url.toLocalFile()));
+    };
+    QMetaObject::invokeMethod(this, judge, Qt::QueuedConnection);
     if (sendAll.exchange(false, std::memory_order_relaxed)) {
         const auto answer = [this, row = id] { emit allGpsDataParserFinished(row, {}); };
         QMetaObject::invokeMethod(this, answer, Qt::QueuedConnection);
@@ -133,9 +152,15 @@ void VideoParser::readRecording()
     if (!awaitTurn(turn))
         return;
     const std::unique_ptr<ParserObject> walker = openWalker();
-    if (!walker->wasCutShort())
+    RecordingCondition condition;
+    if (!walker->wasCutShort()) {
         emit videoInfoChanged(id, videoInfoOf(*walker));
-    decodeAll(*walker);
+        condition = checkRecording(walker->file);
+        if (walker->gpsFormat == ParserObject::NoTelemetry)
+            condition.telemetry = RecordingCondition::NoTelemetry;
+        emit conditionChanged(id, condition);
+    }
+    decodeAll(*walker, condition);
 }
 
 /** Returns false if the pass was told to end while it waited. */
@@ -172,12 +197,28 @@ std::unique_ptr<ParserObject> VideoParser::createWalker() const
     return std::make_unique<Mp4Parser>(fileName, nullptr, &running);
 }
 
-void VideoParser::decodeAll(ParserObject &walker)
+void VideoParser::decodeAll(ParserObject &walker, RecordingCondition &condition)
 {
     gpsList.clear();
     GpsData sample;
-    for (int i = 0; running.load(std::memory_order_relaxed) && walker.getGpsData(i, sample); ++i)
+    int i = 0;
+    for (; running.load(std::memory_order_relaxed) && walker.getGpsData(i, sample); ++i) {
         gpsList.append(sample);
+        if (isFromCamera(sample))
+            tellTelemetry(condition, RecordingCondition::HasTelemetry);
+    }
+    if (running.load(std::memory_order_relaxed))
+        tellTelemetry(condition, RecordingCondition::NoTelemetry);
+}
+
+/** The first word is the last one. */
+void VideoParser::tellTelemetry(RecordingCondition &condition,
+                                RecordingCondition::Telemetry telemetry)
+{
+    if (condition.telemetry != RecordingCondition::TelemetryUnknown)
+        return;
+    condition.telemetry = telemetry;
+    emit conditionChanged(id, condition);
 }
 
 void VideoParser::serve()
