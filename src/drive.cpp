@@ -2,8 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "drive.h"
 
+#include "fix.h"
 #include "recordingwalker.h"
 
+#include <algorithm>
 #include <iterator>
 
 namespace {
@@ -34,6 +36,8 @@ std::optional<Drive> readDrive(const QString &fileName, const std::atomic<bool> 
         drive.samples.append(sample);
     if (!isStillWanted(wanted))
         return std::nullopt;
+    if (std::none_of(drive.samples.constBegin(), drive.samples.constEnd(), isFromCamera))
+        drive.samples.clear();
     return drive;
 }
 

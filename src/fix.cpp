@@ -15,6 +15,15 @@ bool hasPosition(const GpsData &sample)
     return sample.longitude != 0.0 || sample.latitude != 0.0;
 }
 
+bool isFromCamera(const GpsData &sample)
+{
+    constexpr int TimeLength = int(sizeof sample.time) - 1;
+    const auto isTime = [](const char *text) {
+        return std::all_of(text, text + TimeLength, [](char c) { return c >= '0' && c <= '9'; });
+    };
+    return isTime(sample.time) || isTime(sample.time2);
+}
+
 bool hasFix(const GpsData &sample)
 {
     return hasPosition(sample) && std::fabs(sample.latitude) <= LargestLatitude &&

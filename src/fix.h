@@ -12,6 +12,10 @@
  */
 bool hasPosition(const GpsData &sample);
 
+/** Whether a camera has written the sample. Whatever lies where a sample could be is decoded, such
+ * as the sound of any AVI; only cameras put fourteen digits where the time belongs. */
+bool isFromCamera(const GpsData &sample);
+
 /** Whether the receiver knew where it was: the sample carries a position, and one on the globe.
  *  Without a fix its speed and direction are not measured either. */
 bool hasFix(const GpsData &sample);

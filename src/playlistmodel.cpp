@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "playlistmodel.h"
 
+#include "recordingcheck.h"
 #include "rowdata.h"
 
 #include <QCoreApplication>
@@ -89,6 +90,8 @@ QVariant PlaylistModel::data(const QModelIndex &index, int role) const
         return QVariant();
     if (role == Qt::TextAlignmentRole)
         return int(Qt::AlignCenter);
+    if (role == ConditionRole)
+        return QVariant::fromValue(row->condition);
     if (role != Qt::DisplayRole)
         return QVariant();
     switch (index.column()) {
@@ -107,7 +110,7 @@ QVariant PlaylistModel::data(const QModelIndex &index, int role) const
     }
 }
 
-QString PlaylistModel::tohumanReadableSize(const qint64 &bytes, int precision) const
+QString PlaylistModel::tohumanReadableSize(const qint64 &bytes, int precision)
 {
     constexpr double OneStep = 0.0009765625; // 1 / 1024
     auto unit = std::begin(SizeUnits);
@@ -166,8 +169,10 @@ void PlaylistModel::setCurPlayPosition(int row, int sampleIndex)
 
 void PlaylistModel::updateAllGpsData(int row)
 {
-    if (RowData *data = getRowData(row))
+    if (RowData *data = getRowData(row)) {
         data->parser.updateAllGpsData();
+        updatePresence(*data);
+    }
 }
 
 int PlaylistModel::addDataByUrl(const QUrl &url)
@@ -241,6 +246,15 @@ void PlaylistModel::onVideoInfoChanged(int id, VideoInfo info)
     emit dataChanged(QModelIndex(), QModelIndex());
 }
 
+void PlaylistModel::onConditionChanged(int id, const RecordingCondition &condition)
+{
+    RowData *row = getRowData(id);
+    if (!row)
+        return;
+    row->condition = condition;
+    emit dataChanged(createIndex(id, 0), createIndex(id, ColumnCount - 1), {ConditionRole});
+}
+
 // What a worker has sent by then arrives after a clearing too, when its id may be another row's.
 void PlaylistModel::connectWorker(const RowData &row)
 {
@@ -260,6 +274,24 @@ void PlaylistModel::connectWorker(const RowData &row)
                 if (isListed())
                     emit allGpsDataParserFinished(id, list);
             });
+    connect(&row.parser, &VideoParser::conditionChanged, this,
+            [this, isListed](int id, const RecordingCondition &condition) {
+                if (isListed())
+                    onConditionChanged(id, condition);
+            });
+}
+
+void PlaylistModel::updatePresence(const RowData &row)
+{
+    if (row.condition.kind == RecordingCondition::Unknown)
+        return; // its worker is about to look
+    const QFileInfo file(row.url.toLocalFile());
+    const bool isThere = file.isFile() && file.isReadable();
+    if (isThere == (row.condition.kind != RecordingCondition::Gone))
+        return;
+    RecordingCondition condition = checkRecording(file.filePath());
+    condition.telemetry = row.condition.telemetry;
+    onConditionChanged(row.id, condition);
 }
 
 RowData *PlaylistModel::findPartnerByEnd(const RowData &main) const

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "gpsdata.h"
+#include "recordingcondition.h"
 #include "videoinfo.h"
 
 #include <QAbstractItemModel>
@@ -39,6 +40,12 @@ public:
         ColumnCount
     };
 
+    /** Beside the display and the alignment, which are all that other roles give. */
+    enum Role
+    {
+        ConditionRole = Qt::UserRole + 1 ///< of every column: the row's RecordingCondition
+    };
+
     explicit PlaylistModel(QObject *parent = nullptr);
     /** Tells every worker to end before it waits for the first. */
     ~PlaylistModel() override;
@@ -54,7 +61,7 @@ public:
 
     /** A number of bytes in the largest unit that keeps it at 1 or above, in steps of 1024, with
      *  @p precision decimals. */
-    QString tohumanReadableSize(const qint64 &bytes, int precision) const;
+    static QString tohumanReadableSize(const qint64 &bytes, int precision);
 
     /** The row, owned by the model; null when out of range. */
     RowData *getRowData(int row) const;
@@ -73,7 +80,8 @@ public:
 
     /** Asks the row's worker for the sample with this index. */
     void setCurPlayPosition(int row, int sampleIndex);
-    /** Asks the row's worker for all samples. */
+    /** Asks the row's worker for all samples, because the row is to be played. Its file may have
+     *  gone or come back since it was read: then its condition changes. */
     void updateAllGpsData(int row);
 
     /** Appends the recording and starts its worker. Returns its row, or that of a recording with
@@ -96,11 +104,14 @@ signals:
 
 public slots:
     void onVideoInfoChanged(int id, VideoInfo info);
+    /** Ignores ids of no row. */
+    void onConditionChanged(int id, const RecordingCondition &condition);
 
 private:
     using Rows = std::vector<std::unique_ptr<RowData>>;
 
     void connectWorker(const RowData &row);
+    void updatePresence(const RowData &row);
     RowData *findPartnerByEnd(const RowData &main) const;
     RowData *findPartnerByStart(const RowData &main) const;
     void takeRows();

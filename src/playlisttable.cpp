@@ -2,14 +2,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "playlisttable.h"
 
-#include "elidedlabel.h"
 #include "fittedfont.h"
+#include "playlistcells.h"
+#include "playlistmodel.h"
+#include "recordingsign.h"
 
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QScrollBar>
-#include <QStyledItemDelegate>
-#include <QToolTip>
 
 #include <iterator>
 
@@ -19,7 +19,7 @@ constexpr int RowHeight = 38;
 // The last column takes the rest, but no less than this.
 constexpr int ColumnWidths[] = {200, 80, 140, 80, 80};
 constexpr int HeaderHeight = 24;
-constexpr int TextMargins = 6; // both together, of a cell or a section of the header
+constexpr int TextMargins = PlaylistCells::TextMargins; // as well those of the header's sections
 
 // The widest texts of the columns that have no names in them.
 const char *const WidestTexts[] = {"", "00:00:00", "0000/00/00 00:00:00", "", "0000 x 0000"};
@@ -50,37 +50,12 @@ const char ScrollBarStyle[] =
 void tellElided(const QHelpEvent &event, const QString &text, const QFont &font, int width)
 {
     const bool isElided = QFontMetrics(font).horizontalAdvance(text) > width;
-    QToolTip::showText(event.globalPos(), isElided ? plainToolTip(text) : QString());
+    showPlainToolTip(event.globalPos(), isElided ? text : QString());
 }
 
 } // namespace
 
-class PlaylistTable::Cells : public QStyledItemDelegate
-{
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-    bool helpEvent(QHelpEvent *event, QAbstractItemView *view, const QStyleOptionViewItem &option,
-                   const QModelIndex &index) override
-    {
-        if (event->type() != QEvent::ToolTip)
-            return QStyledItemDelegate::helpEvent(event, view, option, index);
-        tellElided(*event, index.data().toString(), font, option.rect.width() - TextMargins);
-        return true;
-    }
-
-    QFont font;
-
-protected:
-    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
-    {
-        QStyledItemDelegate::initStyleOption(option, index);
-        option->font = font;
-        option->fontMetrics = QFontMetrics(font);
-    }
-};
-
-PlaylistTable::PlaylistTable(QWidget *parent) : QTableView(parent), mCells(new Cells(this))
+PlaylistTable::PlaylistTable(QWidget *parent) : QTableView(parent), mCells(new PlaylistCells(this))
 {
     setItemDelegate(mCells);
     setupRows();
@@ -94,6 +69,12 @@ void PlaylistTable::setPlaylist(QAbstractItemModel *playlist)
     for (int column = 0; column < int(std::size(ColumnWidths)); ++column)
         setColumnWidth(column, ColumnWidths[column]);
     connect(playlist, &QAbstractItemModel::headerDataChanged, this, &PlaylistTable::fitHeaderFont);
+    connect(playlist, &QAbstractItemModel::headerDataChanged, this,
+            &PlaylistTable::describeCurrent); // the language may be another
+    connect(playlist, &QAbstractItemModel::dataChanged, this, &PlaylistTable::describeCurrent);
+    connect(playlist, &QAbstractItemModel::modelReset, this, &PlaylistTable::describeCurrent);
+    connect(selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            &PlaylistTable::describeCurrent);
     fitFonts();
 }
 
@@ -159,13 +140,13 @@ void PlaylistTable::fitFonts()
     for (int column = 0; column < int(std::size(ColumnWidths)); ++column)
         fitted = fittedFont(fitted, QLatin1String(WidestTexts[column]),
                             {ColumnWidths[column] - TextMargins, RowHeight});
-    mCells->font = fitted;
+    mCells->setFont(fitted);
     fitHeaderFont();
 }
 
 void PlaylistTable::fitHeaderFont()
 {
-    QFont fitted = mCells->font; // no larger than theirs: the header is lower than the rows
+    QFont fitted = mCells->font(); // no larger than theirs: the header is lower than the rows
     for (int column = 0; column < int(std::size(ColumnWidths)); ++column)
         fitted = fittedFont(fitted, headerText(column),
                             {ColumnWidths[column] - TextMargins, HeaderHeight});
@@ -176,4 +157,15 @@ void PlaylistTable::fitHeaderFont()
 QString PlaylistTable::headerText(int column) const
 {
     return model()->headerData(column, Qt::Horizontal).toString();
+}
+
+/** Cells have no description of their own: the playlist gives none. */
+void PlaylistTable::describeCurrent()
+{
+    const QVariant condition = currentIndex().data(PlaylistModel::ConditionRole);
+    const QString description = condition.isValid()
+                                    ? RecordingSign(condition.value<RecordingCondition>()).text()
+                                    : QString();
+    if (description != accessibleDescription())
+        setAccessibleDescription(description);
 }

@@ -2,13 +2,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "videoparser.h"
 
+#include "fix.h"
 #include "noeventdispatcher.h"
+#include "recordingcheck.h"
 #include "recordingwalker.h"
 
 #include <QCoreApplication>
 #include <QDebug>
 #include <QSemaphore>
 #include <QTimer>
+
+#include <algorithm>
 
 namespace {
 
@@ -40,6 +44,7 @@ bool lacksDescriptors(const ParserObject &walker)
 VideoParser::VideoParser(QObject *parent) : QThread(parent)
 {
     qRegisterMetaType<VideoInfo>("VideoInfo");
+    qRegisterMetaType<RecordingCondition>("RecordingCondition");
     qRegisterMetaType<GpsData>("GpsData");
     qRegisterMetaType<QList<GpsData>>("QList<GpsData>");
     setStackSize(StackSize);
@@ -99,6 +104,10 @@ void VideoParser::launch()
 void VideoParser::answerWithoutThread()
 {
     qWarning() << "no thread to read the recording with, row:" << id << url.fileName();
+    const auto judge = [this, row = id] {
+        emit conditionChanged(row, checkRecording(url.toLocalFile()));
+    };
+    QMetaObject::invokeMethod(this, judge, Qt::QueuedConnection);
     if (sendAll.exchange(false, std::memory_order_relaxed)) {
         const auto answer = [this, row = id] { emit allGpsDataParserFinished(row, {}); };
         QMetaObject::invokeMethod(this, answer, Qt::QueuedConnection);
@@ -120,9 +129,15 @@ void VideoParser::readRecording()
     if (!awaitTurn(turn))
         return;
     const std::unique_ptr<ParserObject> walker = openWalker();
-    if (!walker->wasCutShort())
+    RecordingCondition condition;
+    if (!walker->wasCutShort()) {
         emit videoInfoChanged(id, videoInfoOf(*walker));
-    decodeAll(*walker);
+        condition = checkRecording(walker->file);
+        if (walker->gpsFormat == ParserObject::NoTelemetry)
+            condition.telemetry = RecordingCondition::NoTelemetry;
+        emit conditionChanged(id, condition);
+    }
+    decodeAll(*walker, condition);
 }
 
 /** Returns false if the pass was told to end while it waited. */
@@ -151,12 +166,28 @@ std::unique_ptr<ParserObject> VideoParser::openWalker() const
     return walker;
 }
 
-void VideoParser::decodeAll(ParserObject &walker)
+void VideoParser::decodeAll(ParserObject &walker, RecordingCondition &condition)
 {
     gpsList.clear();
     GpsData sample;
-    for (int i = 0; running.load(std::memory_order_relaxed) && walker.getGpsData(i, sample); ++i)
+    int i = 0;
+    for (; running.load(std::memory_order_relaxed) && walker.getGpsData(i, sample); ++i) {
         gpsList.append(sample);
+        if (isFromCamera(sample))
+            tellTelemetry(condition, RecordingCondition::HasTelemetry);
+    }
+    if (running.load(std::memory_order_relaxed))
+        tellTelemetry(condition, RecordingCondition::NoTelemetry);
+}
+
+/** The first word is the last one. */
+void VideoParser::tellTelemetry(RecordingCondition &condition,
+                                RecordingCondition::Telemetry telemetry)
+{
+    if (condition.telemetry != RecordingCondition::TelemetryUnknown)
+        return;
+    condition.telemetry = telemetry;
+    emit conditionChanged(id, condition);
 }
 
 void VideoParser::serve()

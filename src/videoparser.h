@@ -3,6 +3,7 @@
 #pragma once
 
 #include "gpsdata.h"
+#include "recordingcondition.h"
 #include "videoinfo.h"
 
 #include <QList>
@@ -60,6 +61,9 @@ signals:
     /** Once a pass, as soon as the container has been walked; not if the pass was told to end
      *  before a long walk had. */
     void videoInfoChanged(int id, VideoInfo info);
+    /** What is known of the file itself: right after videoInfoChanged(), and again in the same
+     *  pass when its telemetry has become known. Without a thread, from the event loop. */
+    void conditionChanged(int id, RecordingCondition condition);
     void gpsDataChanged(int id, GpsData sample);
     void allGpsDataParserFinished(int id, const QList<GpsData> &list);
 
@@ -72,7 +76,8 @@ private:
     void readRecording();
     bool awaitTurn(QSemaphoreReleaser &turn) const;
     std::unique_ptr<ParserObject> openWalker() const;
-    void decodeAll(ParserObject &walker);
+    void decodeAll(ParserObject &walker, RecordingCondition &condition);
+    void tellTelemetry(RecordingCondition &condition, RecordingCondition::Telemetry telemetry);
     void serve();
     void waitForEnd();
 

@@ -134,8 +134,22 @@ void TestPlaylistModel::reading()
         QCOMPARE(changes.at(row).at(0).toModelIndex(), mModel->index(row, 0));
         QCOMPARE(changes.at(row).at(1).toModelIndex().column(), 5);
     }
-    QTRY_COMPARE(changes.count(), 4);
-    QCOMPARE(changes.last().mid(0, 2), QVariantList({QModelIndex(), QModelIndex()}));
+    // Of each the row, facts and condition, and of the first its telemetry.
+    QTRY_COMPARE(changes.count(), 7);
+    const auto facts = QVariantList({QModelIndex(), QModelIndex()});
+    QCOMPARE(std::count_if(changes.begin(), changes.end(),
+                           [&](const auto &change) { return change.mid(0, 2) == facts; }),
+             2);
+    const auto condition = [&](int row) {
+        return mModel->index(row, 0).data(PlaylistModel::ConditionRole).value<RecordingCondition>();
+    };
+    QCOMPARE(condition(0).kind, RecordingCondition::Whole);
+    QCOMPARE(condition(0).coding, QByteArray("hvc1"));
+    QCOMPARE(condition(0).telemetry, RecordingCondition::HasTelemetry);
+    QCOMPARE(condition(1).kind, RecordingCondition::Gone);
+    QCOMPARE(condition(1).telemetry, RecordingCondition::NoTelemetry);
+    QVERIFY(!mModel->index(0, 0).data(Qt::DecorationRole).isValid());
+    QVERIFY(!mModel->index(0, 0).data(Qt::ToolTipRole).isValid());
     QCOMPARE(cells(0), QStringList({"süd#1-50%20.MP4", "00:01:05", born, "3 MB", "2560 x 1440"}));
     QCOMPARE(cells(1), QStringList({"absent.mp4", "00:00:00", "", "0 bytes", "0 x 0"}));
     QCOMPARE(mModel->getCurPlayFileDuration(0), 65);
@@ -148,7 +162,9 @@ void TestPlaylistModel::reading()
     info.duration = std::numeric_limits<quint32>::max(); // 49710 days and the time below
     for (int id : {-1, 2, 1})
         mModel->onVideoInfoChanged(id, info);
-    QCOMPARE(changes.count(), 5);
+    for (int id : {-1, 2})
+        mModel->onConditionChanged(id, RecordingCondition());
+    QCOMPARE(changes.count(), 8);
     QCOMPARE(cells(0).at(PlaylistModel::Duration), QString("00:01:05"));
     QCOMPARE(cells(1).at(PlaylistModel::Duration), QString("06:28:15"));
 }
@@ -175,7 +191,7 @@ void TestPlaylistModel::notRecordings()
     QVERIFY(make(name));
     QSignalSpy changes(mModel.get(), &QAbstractItemModel::dataChanged);
     mModel->addDataByUrl(QUrl::fromLocalFile(name));
-    QTRY_COMPARE(changes.count(), 2);
+    QTRY_COMPARE(changes.count(), 3);
     QCOMPARE(cells(0), QStringList({"odd.mp4", "00:00:00", "", "0 bytes", "0 x 0"}));
     QSignalSpy lists(mModel.get(), &PlaylistModel::allGpsDataParserFinished);
     mModel->updateAllGpsData(0);
@@ -293,7 +309,7 @@ void TestPlaylistModel::manyRows()
         QVERIFY(QFile::link(url.toLocalFile(), copy.toLocalFile()));
         mModel->addDataByUrl(copy);
     }
-    QTRY_COMPARE(changes.count(), 2 * rowCount);
+    QTRY_COMPARE(changes.count(), 4 * rowCount); // added, facts, condition, telemetry
     for (int row = 0; row < rowCount; ++row)
         QCOMPARE(mModel->getVideoSize(row), QSize(2560, 1440));
     QTRY_COMPARE(descriptors(), before);

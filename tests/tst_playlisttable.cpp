@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Quellfern
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "patience.h"
+#include "playlistcells.h"
+#include "playlistmodel.h"
 #include "playlisttable.h"
 
 #include <QHeaderView>
@@ -22,7 +24,10 @@ QString toolTipAt(QWidget *viewport, const QPoint &place)
     QHelpEvent event(QEvent::ToolTip, place, viewport->mapToGlobal(place));
     QCoreApplication::sendEvent(viewport, &event);
     QTextDocument text;
-    text.setHtml(QToolTip::text());
+    if (Qt::mightBeRichText(QToolTip::text()))
+        text.setHtml(QToolTip::text());
+    else
+        text.setPlainText(QToolTip::text());
     return QToolTip::isVisible() ? text.toPlainText() : QString();
 }
 
@@ -37,6 +42,9 @@ private slots:
     void nothingIsCut_data();
     void nothingIsCut();
     void scrollBarIsRound();
+    void signs_data();
+    void signs();
+    void waitingSign();
 };
 
 void TestPlaylistTable::nothingIsCut_data()
@@ -112,6 +120,86 @@ void TestPlaylistTable::scrollBarIsRound()
         QCOMPARE(image.pixelColor(isVertical ? QPoint(4, 1) : QPoint(1, 4)), handle);
         QCOMPARE(image.pixelColor(isVertical ? QPoint(0, 12) : QPoint(12, 0)), handle);
     }
+}
+
+void TestPlaylistTable::signs_data()
+{
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<int>("telemetry");
+    QTest::addColumn<QStringList>("words"); // of the tool tip; none: there is no sign
+    const auto row = [](const char *name, RecordingCondition::Kind kind,
+                        RecordingCondition::Telemetry telemetry, const QStringList &words) {
+        QTest::newRow(name) << int(kind) << int(telemetry) << words;
+    };
+    using C = RecordingCondition;
+    row("whole", C::Whole, C::HasTelemetry, {});
+    row("whole, still being read", C::Whole, C::TelemetryUnknown, {});
+    row("without telemetry", C::Whole, C::NoTelemetry, {"No telemetry"});
+    row("cut off", C::CutOff, C::NoTelemetry, {"cut off", "3 MB of 2 GB", "No telemetry"});
+    row("without header", C::NoHeader, C::NoTelemetry, {"header"});
+    row("empty", C::Empty, C::NoTelemetry, {"Empty"});
+    row("gone", C::Gone, C::NoTelemetry, {"gone"});
+    row("no video", C::NotVideo, C::NoTelemetry, {"Not an MP4"});
+}
+
+void TestPlaylistTable::signs()
+{
+    QFETCH(int, kind);
+    QFETCH(int, telemetry);
+    QFETCH(QStringList, words);
+    QStandardItemModel model(1, 5);
+    PlaylistTable table;
+    table.resize(600, 150);
+    table.setPlaylist(&model);
+    table.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&table, PatienceMs));
+    table.selectRow(0);
+    const QImage plain = table.viewport()->grab().toImage();
+
+    RecordingCondition condition;
+    condition.kind = RecordingCondition::Kind(kind);
+    condition.telemetry = RecordingCondition::Telemetry(telemetry);
+    condition.missingBytes = 3 << 20;
+    condition.wholeBytes = qint64(2) << 30;
+    const QModelIndex name = model.index(0, 0);
+    model.setData(name, QVariant::fromValue(condition), PlaylistModel::ConditionRole);
+    const QImage marked = table.viewport()->grab().toImage();
+    QCOMPARE(marked != plain, !words.isEmpty());
+    const QRect behind(24, 0, plain.width() - 24, plain.height()); // of the sign
+    QCOMPARE(marked.copy(behind), plain.copy(behind));
+    const QString toolTip = toolTipAt(table.viewport(), table.visualRect(name).center());
+    QCOMPARE(toolTip.isEmpty(), words.isEmpty());
+    for (const QString &word : words)
+        QVERIFY2(toolTip.contains(word), qPrintable(toolTip));
+    QCOMPARE(table.accessibleDescription(), toolTip);
+    QCOMPARE(toolTipAt(table.viewport(), table.visualRect(model.index(0, 1)).center()), QString());
+    QCOMPARE(table.columnWidth(0), 200);
+    QVERIFY(!table.findChild<PlaylistCells *>()->isAnimating());
+}
+
+/** It moves while the row waits, and not longer. */
+void TestPlaylistTable::waitingSign()
+{
+    QStandardItemModel model(1, 5);
+    PlaylistTable table;
+    table.resize(600, 150);
+    table.setPlaylist(&model);
+    table.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&table, PatienceMs));
+    const auto *cells = table.findChild<PlaylistCells *>();
+    const auto image = [&] { return table.viewport()->grab().toImage(); };
+    const QImage plain = image();
+    RecordingCondition condition;
+    model.setData(model.index(0, 0), QVariant::fromValue(condition), PlaylistModel::ConditionRole);
+    QCOMPARE(image(), plain); // not at once
+    QTRY_VERIFY(image() != plain);
+    const QImage first = image();
+    QTRY_VERIFY(image() != first && image() != plain);
+    QVERIFY(cells->isAnimating());
+    condition.kind = RecordingCondition::Whole;
+    model.setData(model.index(0, 0), QVariant::fromValue(condition), PlaylistModel::ConditionRole);
+    QTRY_VERIFY(!cells->isAnimating());
+    QCOMPARE(image(), plain);
 }
 
 QTEST_MAIN(TestPlaylistTable)

@@ -317,6 +317,45 @@
     </message>
 </context>
 <context>
+    <name>RecordingSign</name>
+    <message>
+        <source>No telemetry in this recording</source>
+        <translation>此录像没有遥测数据</translation>
+    </message>
+    <message>
+        <source>Being examined</source>
+        <translation>正在检查</translation>
+    </message>
+    <message>
+        <source>Damaged: the header is missing, without which it cannot be played</source>
+        <translation>已损坏：缺少文件头，无法播放</translation>
+    </message>
+    <message>
+        <source>Empty: the file has no content</source>
+        <translation>空：文件没有内容</translation>
+    </message>
+    <message>
+        <source>The file is gone or cannot be read</source>
+        <translation>文件已不存在或无法读取</translation>
+    </message>
+    <message>
+        <source>Not an MP4, MOV or AVI video</source>
+        <translation>不是 MP4、MOV 或 AVI 视频</translation>
+    </message>
+    <message>
+        <source>Damaged: the recording is cut off</source>
+        <translation>已损坏：录像不完整</translation>
+    </message>
+    <message>
+        <source>Damaged: the recording is cut off, at least %1 missing</source>
+        <translation>已损坏：录像不完整，至少缺少 %1</translation>
+    </message>
+    <message>
+        <source>Damaged: the recording is cut off, at least %1 of %2 missing</source>
+        <translation>已损坏：录像不完整，共 %2，至少缺少 %1</translation>
+    </message>
+</context>
+<context>
     <name>ScreenshotNotice</name>
     <message>
         <source>No screenshot: the folder %1 cannot be created</source>

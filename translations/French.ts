@@ -317,6 +317,45 @@
     </message>
 </context>
 <context>
+    <name>RecordingSign</name>
+    <message>
+        <source>No telemetry in this recording</source>
+        <translation>Aucune télémétrie dans cet enregistrement</translation>
+    </message>
+    <message>
+        <source>Being examined</source>
+        <translation>Examen en cours</translation>
+    </message>
+    <message>
+        <source>Damaged: the header is missing, without which it cannot be played</source>
+        <translation>Endommagé : il manque l’en-tête, sans lequel la lecture est impossible</translation>
+    </message>
+    <message>
+        <source>Empty: the file has no content</source>
+        <translation>Vide : le fichier n’a aucun contenu</translation>
+    </message>
+    <message>
+        <source>The file is gone or cannot be read</source>
+        <translation>Le fichier a disparu ou ne peut être lu</translation>
+    </message>
+    <message>
+        <source>Not an MP4, MOV or AVI video</source>
+        <translation>Ce n’est pas une vidéo MP4, MOV ou AVI</translation>
+    </message>
+    <message>
+        <source>Damaged: the recording is cut off</source>
+        <translation>Endommagé : l’enregistrement est tronqué</translation>
+    </message>
+    <message>
+        <source>Damaged: the recording is cut off, at least %1 missing</source>
+        <translation>Endommagé : l’enregistrement est tronqué, il manque au moins %1</translation>
+    </message>
+    <message>
+        <source>Damaged: the recording is cut off, at least %1 of %2 missing</source>
+        <translation>Endommagé : l’enregistrement est tronqué, il manque au moins %1 sur %2</translation>
+    </message>
+</context>
+<context>
     <name>ScreenshotNotice</name>
     <message>
         <source>No screenshot: the folder %1 cannot be created</source>

@@ -317,6 +317,45 @@
     </message>
 </context>
 <context>
+    <name>RecordingSign</name>
+    <message>
+        <source>No telemetry in this recording</source>
+        <translation>Keine Telemetrie in dieser Aufnahme</translation>
+    </message>
+    <message>
+        <source>Being examined</source>
+        <translation>Wird untersucht</translation>
+    </message>
+    <message>
+        <source>Damaged: the header is missing, without which it cannot be played</source>
+        <translation>Beschädigt: Der Header fehlt, ohne den sie nicht wiedergegeben werden kann</translation>
+    </message>
+    <message>
+        <source>Empty: the file has no content</source>
+        <translation>Leer: Die Datei hat keinen Inhalt</translation>
+    </message>
+    <message>
+        <source>The file is gone or cannot be read</source>
+        <translation>Die Datei ist verschwunden oder nicht lesbar</translation>
+    </message>
+    <message>
+        <source>Not an MP4, MOV or AVI video</source>
+        <translation>Kein MP4-, MOV- oder AVI-Video</translation>
+    </message>
+    <message>
+        <source>Damaged: the recording is cut off</source>
+        <translation>Beschädigt: Die Aufnahme ist abgeschnitten</translation>
+    </message>
+    <message>
+        <source>Damaged: the recording is cut off, at least %1 missing</source>
+        <translation>Beschädigt: Die Aufnahme ist abgeschnitten, es fehlen mindestens %1</translation>
+    </message>
+    <message>
+        <source>Damaged: the recording is cut off, at least %1 of %2 missing</source>
+        <translation>Beschädigt: Die Aufnahme ist abgeschnitten, es fehlen mindestens %1 von %2</translation>
+    </message>
+</context>
+<context>
     <name>ScreenshotNotice</name>
     <message>
         <source>No screenshot: the folder %1 cannot be created</source>

@@ -317,6 +317,45 @@
     </message>
 </context>
 <context>
+    <name>RecordingSign</name>
+    <message>
+        <source>No telemetry in this recording</source>
+        <translation>Nessuna telemetria in questa registrazione</translation>
+    </message>
+    <message>
+        <source>Being examined</source>
+        <translation>Esame in corso</translation>
+    </message>
+    <message>
+        <source>Damaged: the header is missing, without which it cannot be played</source>
+        <translation>Danneggiata: manca l’intestazione, senza la quale non può essere riprodotta</translation>
+    </message>
+    <message>
+        <source>Empty: the file has no content</source>
+        <translation>Vuoto: il file non ha contenuto</translation>
+    </message>
+    <message>
+        <source>The file is gone or cannot be read</source>
+        <translation>Il file non c’è più o non può essere letto</translation>
+    </message>
+    <message>
+        <source>Not an MP4, MOV or AVI video</source>
+        <translation>Non è un video MP4, MOV o AVI</translation>
+    </message>
+    <message>
+        <source>Damaged: the recording is cut off</source>
+        <translation>Danneggiata: la registrazione è troncata</translation>
+    </message>
+    <message>
+        <source>Damaged: the recording is cut off, at least %1 missing</source>
+        <translation>Danneggiata: la registrazione è troncata, mancano almeno %1</translation>
+    </message>
+    <message>
+        <source>Damaged: the recording is cut off, at least %1 of %2 missing</source>
+        <translation>Danneggiata: la registrazione è troncata, mancano almeno %1 su %2</translation>
+    </message>
+</context>
+<context>
     <name>ScreenshotNotice</name>
     <message>
         <source>No screenshot: the folder %1 cannot be created</source>

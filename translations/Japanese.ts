@@ -317,6 +317,45 @@
     </message>
 </context>
 <context>
+    <name>RecordingSign</name>
+    <message>
+        <source>No telemetry in this recording</source>
+        <translation>この記録にはテレメトリーがありません</translation>
+    </message>
+    <message>
+        <source>Being examined</source>
+        <translation>確認中</translation>
+    </message>
+    <message>
+        <source>Damaged: the header is missing, without which it cannot be played</source>
+        <translation>破損：再生に必要なヘッダーがありません</translation>
+    </message>
+    <message>
+        <source>Empty: the file has no content</source>
+        <translation>空：ファイルに内容がありません</translation>
+    </message>
+    <message>
+        <source>The file is gone or cannot be read</source>
+        <translation>ファイルが見つからないか、読み取れません</translation>
+    </message>
+    <message>
+        <source>Not an MP4, MOV or AVI video</source>
+        <translation>MP4、MOV、AVI の動画ではありません</translation>
+    </message>
+    <message>
+        <source>Damaged: the recording is cut off</source>
+        <translation>破損：記録が途中で切れています</translation>
+    </message>
+    <message>
+        <source>Damaged: the recording is cut off, at least %1 missing</source>
+        <translation>破損：記録が途中で切れています（少なくとも %1 不足）</translation>
+    </message>
+    <message>
+        <source>Damaged: the recording is cut off, at least %1 of %2 missing</source>
+        <translation>破損：記録が途中で切れています（%2 のうち少なくとも %1 不足）</translation>
+    </message>
+</context>
+<context>
     <name>ScreenshotNotice</name>
     <message>
         <source>No screenshot: the folder %1 cannot be created</source>

@@ -317,6 +317,45 @@
     </message>
 </context>
 <context>
+    <name>RecordingSign</name>
+    <message>
+        <source>No telemetry in this recording</source>
+        <translation>이 녹화에는 텔레메트리가 없습니다</translation>
+    </message>
+    <message>
+        <source>Being examined</source>
+        <translation>확인 중</translation>
+    </message>
+    <message>
+        <source>Damaged: the header is missing, without which it cannot be played</source>
+        <translation>손상됨: 재생에 필요한 헤더가 없습니다</translation>
+    </message>
+    <message>
+        <source>Empty: the file has no content</source>
+        <translation>비어 있음: 파일에 내용이 없습니다</translation>
+    </message>
+    <message>
+        <source>The file is gone or cannot be read</source>
+        <translation>파일이 없어졌거나 읽을 수 없습니다</translation>
+    </message>
+    <message>
+        <source>Not an MP4, MOV or AVI video</source>
+        <translation>MP4, MOV 또는 AVI 동영상이 아닙니다</translation>
+    </message>
+    <message>
+        <source>Damaged: the recording is cut off</source>
+        <translation>손상됨: 녹화가 중간에 잘렸습니다</translation>
+    </message>
+    <message>
+        <source>Damaged: the recording is cut off, at least %1 missing</source>
+        <translation>손상됨: 녹화가 중간에 잘렸습니다. 최소 %1 누락</translation>
+    </message>
+    <message>
+        <source>Damaged: the recording is cut off, at least %1 of %2 missing</source>
+        <translation>손상됨: 녹화가 중간에 잘렸습니다. %2 중 최소 %1 누락</translation>
+    </message>
+</context>
+<context>
     <name>ScreenshotNotice</name>
     <message>
         <source>No screenshot: the folder %1 cannot be created</source>

@@ -317,6 +317,45 @@
     </message>
 </context>
 <context>
+    <name>RecordingSign</name>
+    <message>
+        <source>No telemetry in this recording</source>
+        <translation>Brak telemetrii w tym nagraniu</translation>
+    </message>
+    <message>
+        <source>Being examined</source>
+        <translation>Trwa sprawdzanie</translation>
+    </message>
+    <message>
+        <source>Damaged: the header is missing, without which it cannot be played</source>
+        <translation>Uszkodzone: brak nagłówka, bez którego nie można go odtworzyć</translation>
+    </message>
+    <message>
+        <source>Empty: the file has no content</source>
+        <translation>Pusty: plik nie ma zawartości</translation>
+    </message>
+    <message>
+        <source>The file is gone or cannot be read</source>
+        <translation>Plik zniknął lub nie można go odczytać</translation>
+    </message>
+    <message>
+        <source>Not an MP4, MOV or AVI video</source>
+        <translation>To nie jest wideo MP4, MOV ani AVI</translation>
+    </message>
+    <message>
+        <source>Damaged: the recording is cut off</source>
+        <translation>Uszkodzone: nagranie jest ucięte</translation>
+    </message>
+    <message>
+        <source>Damaged: the recording is cut off, at least %1 missing</source>
+        <translation>Uszkodzone: nagranie jest ucięte, brakuje co najmniej %1</translation>
+    </message>
+    <message>
+        <source>Damaged: the recording is cut off, at least %1 of %2 missing</source>
+        <translation>Uszkodzone: nagranie jest ucięte, brakuje co najmniej %1 z %2</translation>
+    </message>
+</context>
+<context>
     <name>ScreenshotNotice</name>
     <message>
         <source>No screenshot: the folder %1 cannot be created</source>

@@ -317,6 +317,45 @@
     </message>
 </context>
 <context>
+    <name>RecordingSign</name>
+    <message>
+        <source>No telemetry in this recording</source>
+        <translation>Sem telemetria nesta gravação</translation>
+    </message>
+    <message>
+        <source>Being examined</source>
+        <translation>A examinar</translation>
+    </message>
+    <message>
+        <source>Damaged: the header is missing, without which it cannot be played</source>
+        <translation>Danificada: falta o cabeçalho, sem o qual não pode ser reproduzida</translation>
+    </message>
+    <message>
+        <source>Empty: the file has no content</source>
+        <translation>Vazio: o ficheiro não tem conteúdo</translation>
+    </message>
+    <message>
+        <source>The file is gone or cannot be read</source>
+        <translation>O ficheiro desapareceu ou não pode ser lido</translation>
+    </message>
+    <message>
+        <source>Not an MP4, MOV or AVI video</source>
+        <translation>Não é um vídeo MP4, MOV ou AVI</translation>
+    </message>
+    <message>
+        <source>Damaged: the recording is cut off</source>
+        <translation>Danificada: a gravação está cortada</translation>
+    </message>
+    <message>
+        <source>Damaged: the recording is cut off, at least %1 missing</source>
+        <translation>Danificada: a gravação está cortada, faltam pelo menos %1</translation>
+    </message>
+    <message>
+        <source>Damaged: the recording is cut off, at least %1 of %2 missing</source>
+        <translation>Danificada: a gravação está cortada, faltam pelo menos %1 de %2</translation>
+    </message>
+</context>
+<context>
     <name>ScreenshotNotice</name>
     <message>
         <source>No screenshot: the folder %1 cannot be created</source>

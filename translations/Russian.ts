@@ -317,6 +317,45 @@
     </message>
 </context>
 <context>
+    <name>RecordingSign</name>
+    <message>
+        <source>No telemetry in this recording</source>
+        <translation>В этой записи нет телеметрии</translation>
+    </message>
+    <message>
+        <source>Being examined</source>
+        <translation>Проверяется</translation>
+    </message>
+    <message>
+        <source>Damaged: the header is missing, without which it cannot be played</source>
+        <translation>Повреждена: отсутствует заголовок, без которого её нельзя воспроизвести</translation>
+    </message>
+    <message>
+        <source>Empty: the file has no content</source>
+        <translation>Пусто: в файле нет содержимого</translation>
+    </message>
+    <message>
+        <source>The file is gone or cannot be read</source>
+        <translation>Файл исчез или его нельзя прочитать</translation>
+    </message>
+    <message>
+        <source>Not an MP4, MOV or AVI video</source>
+        <translation>Это не видео MP4, MOV или AVI</translation>
+    </message>
+    <message>
+        <source>Damaged: the recording is cut off</source>
+        <translation>Повреждена: запись обрезана</translation>
+    </message>
+    <message>
+        <source>Damaged: the recording is cut off, at least %1 missing</source>
+        <translation>Повреждена: запись обрезана, не хватает не менее %1</translation>
+    </message>
+    <message>
+        <source>Damaged: the recording is cut off, at least %1 of %2 missing</source>
+        <translation>Повреждена: запись обрезана, не хватает не менее %1 из %2</translation>
+    </message>
+</context>
+<context>
     <name>ScreenshotNotice</name>
     <message>
         <source>No screenshot: the folder %1 cannot be created</source>

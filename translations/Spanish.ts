@@ -317,6 +317,45 @@
     </message>
 </context>
 <context>
+    <name>RecordingSign</name>
+    <message>
+        <source>No telemetry in this recording</source>
+        <translation>Esta grabación no tiene telemetría</translation>
+    </message>
+    <message>
+        <source>Being examined</source>
+        <translation>Examinando</translation>
+    </message>
+    <message>
+        <source>Damaged: the header is missing, without which it cannot be played</source>
+        <translation>Dañada: falta la cabecera, sin la cual no se puede reproducir</translation>
+    </message>
+    <message>
+        <source>Empty: the file has no content</source>
+        <translation>Vacío: el archivo no tiene contenido</translation>
+    </message>
+    <message>
+        <source>The file is gone or cannot be read</source>
+        <translation>El archivo ya no está o no se puede leer</translation>
+    </message>
+    <message>
+        <source>Not an MP4, MOV or AVI video</source>
+        <translation>No es un vídeo MP4, MOV o AVI</translation>
+    </message>
+    <message>
+        <source>Damaged: the recording is cut off</source>
+        <translation>Dañada: la grabación está cortada</translation>
+    </message>
+    <message>
+        <source>Damaged: the recording is cut off, at least %1 missing</source>
+        <translation>Dañada: la grabación está cortada, faltan al menos %1</translation>
+    </message>
+    <message>
+        <source>Damaged: the recording is cut off, at least %1 of %2 missing</source>
+        <translation>Dañada: la grabación está cortada, faltan al menos %1 de %2</translation>
+    </message>
+</context>
+<context>
     <name>ScreenshotNotice</name>
     <message>
         <source>No screenshot: the folder %1 cannot be created</source>

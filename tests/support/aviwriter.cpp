@@ -71,6 +71,13 @@ QByteArray mainHeader(quint32 microsecondsPerFrame, quint32 totalFrames, quint32
                              little32(totalFrames) + initialFrames + little32(2) + bufferSize +
                              little32(width) + little32(height) + reserved);
 }
+
+QByteArray videoStream(const QByteArray &coding)
+{
+    const QByteArray header = "vids" + coding + zeros(48);
+    const QByteArray format = little32(40) + zeros(12) + coding + zeros(20);
+    return list("strl", chunk("strh", header) + chunk("strf", format));
+}
 } // namespace Avi
 
 void AviWriter::setTelemetry(int scheme, const QList<TelemetryBlock> &samples)
@@ -96,7 +103,8 @@ QByteArray AviWriter::encoded() const
 {
     const QByteArray header = Avi::mainHeader(microsecondsPerFrame, totalFrames, width, height);
     const QByteArray junk = junkSize > 0 ? Avi::chunk("JUNK", zeros(junkSize)) : QByteArray();
-    QByteArray recording = Avi::riff(Avi::list("hdrl", header) + junk + Avi::list("movi", movie()));
+    const QByteArray headers = Avi::list("hdrl", header + Avi::videoStream("MJPG"));
+    QByteArray recording = Avi::riff(headers + junk + Avi::list("movi", movie()));
     if (mScheme == 7)
         graftTelemetry(recording, mSamples, mScheme);
     return recording;

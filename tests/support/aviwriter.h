@@ -34,10 +34,13 @@ QByteArray riff(const QByteArray &content);
 /** "avih", with 56 bytes of payload; width and height in pixels. */
 QByteArray mainHeader(quint32 microsecondsPerFrame, quint32 totalFrames, quint32 width,
                       quint32 height);
+/** The list "strl" of a stream of pictures, with the four characters of their coding. */
+QByteArray videoStream(const QByteArray &coding);
 } // namespace Avi
 
 /**
- * A whole recording: the list "hdrl" with the main header alone, "JUNK", and the list "movi".
+ * A whole recording: the list "hdrl" with the main header and a stream of pictures, "JUNK", and
+ * the list "movi".
  *
  * The telemetry is laid out as one of the cameras' schemes, which are numbered as the parser does:
  *   7  a block "GPSL" behind all else, to which the last four bytes of the file point
