@@ -145,6 +145,12 @@ void TestRecordingCheck::headers_data()
         QTest::addRow("AVI of RIFF size %u", odd) << riff(odd, content) << Kind::Whole << qint64(0);
     row("AVI, open to its end", riff(0, aviHeaders(true) + Avi::listClaiming(0, "movi", zeros(99))),
         Kind::Whole);
+    row("AVI, never finished",
+        riff(0xFFFFFFFF, aviHeaders() + Avi::listClaiming(0xFFFFFFFF, "movi", zeros(99))),
+        Kind::Whole);
+    row("AVI, sizes a sector off",
+        riff(size + 512, aviHeaders() + Avi::listClaiming(Media + 516, "movi", zeros(Media))),
+        Kind::Whole);
     row("AVI cut in movi", riff(size, content).chopped(30000), Kind::CutOff, 30000);
     row("AVI cut in movi, RIFF unset", riff(0, content).chopped(30000), Kind::CutOff,
         30000 - index.size());
