@@ -85,6 +85,17 @@ double ControlPanel::playbackRate() const
     return mUi->fcbox_Rate->itemData(mUi->fcbox_Rate->currentIndex()).toDouble();
 }
 
+QString ControlPanel::spokenState() const
+{
+    if (mState == QMediaPlayer::StoppedState)
+        return tr("Stopped");
+    const QString text =
+        mState == QMediaPlayer::PlayingState ? tr("Playing, %1 of %2") : tr("Paused, %1 of %2");
+    const bool withHours = mDuration >= FirstDurationWithHours;
+    return text.arg(clockText(mUi->hSlider_Seek->value(), withHours),
+                    clockText(mDuration, withHours));
+}
+
 void ControlPanel::setMaxDuration(int seconds)
 {
     mDuration = seconds;

@@ -23,6 +23,7 @@ class ControlPanel;
 class ControlPanel : public QWidget
 {
     Q_OBJECT
+    Q_PROPERTY(QString spokenState READ spokenState)
 
 public:
     explicit ControlPanel(QWidget *parent = nullptr);
@@ -30,6 +31,8 @@ public:
 
     /** The state last set; Stopped at first. */
     QMediaPlayer::State state() const { return mState; }
+    /** What a screen reader says of playback when it is asked: state, position and duration. */
+    QString spokenState() const;
     /** 0 to 100 on the players' linear scale. */
     int volume() const;
     /** How much of its way the volume's handle has gone, in percent. */

@@ -6,6 +6,7 @@
 #include "keyboardclaim.h"
 #include "mediaurl.h"
 #include "picturenotice.h"
+#include "pointerhider.h"
 #include "windowhandover.h"
 
 #include <QDebug>
@@ -21,7 +22,8 @@ constexpr int ResizeSettleMs = 100;
 
 } // namespace
 
-PlayerWidget::PlayerWidget(QWidget *parent) : QVideoWidget(parent), mNotice(new PictureNotice(this))
+PlayerWidget::PlayerWidget(QWidget *parent)
+    : QVideoWidget(parent), mNotice(new PictureNotice(this)), mPointerHider(new PointerHider(this))
 {
     mPlayer.setAudioRole(QAudio::VideoRole);
     mPlayer.setVideoOutput(this);
@@ -198,6 +200,7 @@ void PlayerWidget::keyPressInFullScreen(QKeyEvent *event)
 void PlayerWidget::changeFullScreen(bool isFull)
 {
     emit fullScreen(isFull);
+    mPointerHider->setActive(isFull);
     const QWindow *before = window()->windowHandle();
     const QScreen *screen = before ? before->screen() : QGuiApplication::primaryScreen();
     // One that ends because another program has the keyboard does not take it back.

@@ -10,6 +10,7 @@
 
 class CaptureThread;
 class PictureNotice;
+class PointerHider;
 class QKeyEvent;
 struct ScreenshotResult;
 
@@ -85,8 +86,9 @@ private:
 
     QMediaPlayer mPlayer;
     MediaLoader mLoader{&mPlayer};
-    PictureNotice *mNotice = nullptr; // a child
-    QTimer mFitTimer;                 // from the last change of the size on
+    PictureNotice *mNotice = nullptr;      // a child
+    PointerHider *mPointerHider = nullptr; // a child
+    QTimer mFitTimer;                      // from the last change of the size on
     bool mIsRefitted = false;
     // Deleted by hand when it has finished; one that still runs outlives the widget.
     CaptureThread *mCaptureThread = nullptr;

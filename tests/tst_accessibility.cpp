@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Quellfern
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "configuration.h"
+#include "controlpanel.h"
 #include "directiontray.h"
 #include "mainwindows.h"
 #include "patience.h"
@@ -75,6 +76,7 @@ private slots:
     void namesFollowTheLanguage_data();
     void namesFollowTheLanguage();
     void readOuts();
+    void stateOnRequest();
 
 private:
     template <typename Widget = QWidget>
@@ -169,6 +171,24 @@ void TestAccessibility::readOuts()
         QCOMPARE(spoken(label)->text(QAccessible::Name), child<QLabel>(label)->text());
         QCOMPARE(spoken(label)->text(QAccessible::Description), meaning);
     }
+}
+
+void TestAccessibility::stateOnRequest()
+{
+    auto *panel = static_cast<ControlPanel *>(child("wgt_ControlPanel"));
+    const auto said = [&] { return spoken("wgt_ControlPanel")->text(QAccessible::Description); };
+    QCOMPARE(said(), QStringLiteral("Stopped"));
+    panel->setMaxDuration(83);
+    panel->setState(QMediaPlayer::PlayingState);
+    panel->setCurrentPosition(7);
+    QCOMPARE(said(), QStringLiteral("Playing, 00:07 of 01:23"));
+    panel->setMaxDuration(3700);
+    panel->setState(QMediaPlayer::PausedState);
+    QCOMPARE(said(), QStringLiteral("Paused, 00:00:07 of 01:01:40"));
+    setLanguage(German);
+    QCOMPARE(said(), QStringLiteral("Pause, 00:00:07 von 01:01:40"));
+    setLanguage(EnglishUS);
+    panel->setState(QMediaPlayer::StoppedState);
 }
 
 QTEST_MAIN(TestAccessibility)

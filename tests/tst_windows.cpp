@@ -106,6 +106,7 @@ private slots:
     void fullScreenAndBack();
     void fullScreenAndBackWhileTheManagerIsBusy_data();
     void fullScreenAndBackWhileTheManagerIsBusy();
+    void pointerHides();
     void quickHands();
     void fullScreenYieldsToOtherPrograms();
     void managerEndsFullScreen();
@@ -260,6 +261,19 @@ void tst_Windows::fullScreenAndBackWhileTheManagerIsBusy()
     QTRY_VERIFY(alike(fieldsOf(player()), fields));
     xdotool(QStringLiteral("key Right"));
     QTRY_COMPARE(second(), 6);
+}
+
+void tst_Windows::pointerHides()
+{
+    const auto isHidden = [this] { return player()->cursor().shape() == Qt::BlankCursor; };
+    enterFullScreen();
+    QTRY_VERIFY(isHidden());
+    xdotool(QStringLiteral("mousemove_relative 5 5"));
+    QTRY_VERIFY(!isHidden());
+    QTRY_VERIFY(isHidden());
+    xdotool(QStringLiteral("key Escape"));
+    QTRY_VERIFY(!player()->isWindow());
+    QVERIFY(!isHidden());
 }
 
 void tst_Windows::quickHands()

@@ -4,6 +4,18 @@
 <context>
     <name>ControlPanel</name>
     <message>
+        <source>Stopped</source>
+        <translation>已停止</translation>
+    </message>
+    <message>
+        <source>Playing, %1 of %2</source>
+        <translation>正在播放，%1 / %2</translation>
+    </message>
+    <message>
+        <source>Paused, %1 of %2</source>
+        <translation>已暂停，%1 / %2</translation>
+    </message>
+    <message>
         <source>0000/00/00 00:00:00</source>
         <translation>0000/00/00 00:00:00</translation>
     </message>

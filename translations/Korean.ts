@@ -4,6 +4,18 @@
 <context>
     <name>ControlPanel</name>
     <message>
+        <source>Stopped</source>
+        <translation>정지됨</translation>
+    </message>
+    <message>
+        <source>Playing, %1 of %2</source>
+        <translation>재생 중, %1 / %2</translation>
+    </message>
+    <message>
+        <source>Paused, %1 of %2</source>
+        <translation>일시 정지됨, %1 / %2</translation>
+    </message>
+    <message>
         <source>0000/00/00 00:00:00</source>
         <translation>0000/00/00 00:00:00</translation>
     </message>

@@ -4,6 +4,18 @@
 <context>
     <name>ControlPanel</name>
     <message>
+        <source>Stopped</source>
+        <translation>Parado</translation>
+    </message>
+    <message>
+        <source>Playing, %1 of %2</source>
+        <translation>A reproduzir, %1 de %2</translation>
+    </message>
+    <message>
+        <source>Paused, %1 of %2</source>
+        <translation>Em pausa, %1 de %2</translation>
+    </message>
+    <message>
         <source>0000/00/00 00:00:00</source>
         <translation>0000/00/00 00:00:00</translation>
     </message>
