@@ -127,6 +127,8 @@ void SeekByClick::showPointer(const QPoint &position)
         mWidgets.chart->viewport()->setCursor(Qt::PointingHandCursor);
     else
         mWidgets.chart->viewport()->unsetCursor();
+    if (QToolTip::isVisible())
+        showToolTip(position); // of what is under the pointer by now
 }
 
 bool SeekByClick::showToolTip(const QPoint &position) const
@@ -135,9 +137,9 @@ bool SeekByClick::showToolTip(const QPoint &position) const
         QToolTip::hideText();
         return false;
     }
-    QWidget *viewport = mWidgets.chart->viewport();
-    QToolTip::showText(viewport->mapToGlobal(position), textOf(mSamples.at(sampleAt(position))),
-                       viewport);
+    // As one of no widget: a dark style sheet of the window's would make black letters unreadable.
+    QToolTip::showText(mWidgets.chart->viewport()->mapToGlobal(position),
+                       textOf(mSamples.at(sampleAt(position))));
     return true;
 }
 
