@@ -102,6 +102,23 @@ void GyroChartView::setTelemetryMissing(bool isMissing)
     placeNote();
 }
 
+bool GyroChartView::isOnLines(const QPoint &position) const
+{
+    return seriesX->count() > 0 &&
+           chart()->plotArea().contains(chart()->mapFromScene(mapToScene(position)));
+}
+
+int GyroChartView::sampleNear(const QPoint &position) const
+{
+    if (seriesX->count() == 0)
+        return -1;
+    const QPointF place = chart()->mapFromScene(mapToScene(position));
+    const qreal x = chart()->mapToValue(place, seriesX).x();
+    // An axis that has room for one sample only has no length.
+    const qreal oldest = nextX - seriesX->count();
+    return int(std::lround(std::isfinite(x) ? std::clamp(x, oldest, nextX - 1.0) : oldest));
+}
+
 void GyroChartView::clearAll()
 {
     mIsStale = false;

@@ -37,6 +37,11 @@ public:
     void setCurAxis(int x);
     /** Whether a line over the empty chart says that the recording has no telemetry. */
     void setTelemetryMissing(bool isMissing);
+    /** Whether a place of the viewport lies among the lines, and there are some. */
+    bool isOnLines(const QPoint &position) const;
+    /** The number of the sample that is nearest to a place of the viewport, to its left or right.
+     *  Samples that have gone are none. -1 if there are none. */
+    int sampleNear(const QPoint &position) const;
     /** Removes samples and cursor, and shows the axes as at the beginning. */
     void clearAll();
 

@@ -10,10 +10,23 @@ GyroCurve gyroCurveOf(const QList<GpsData> &samples, int durationS, float frameR
     const float step = isPerSample ? 1.0f : frameRate;
 
     GyroCurve curve;
+    curve.samplesPerPoint = step;
     curve.xRange = isPerSample ? samples.size() : durationS;
     for (int i = 0; i < curve.xRange && sampleCount > float(i) * step; ++i) {
-        const GpsData &sample = samples.at(int(float(i) * step));
+        const GpsData &sample = samples.at(sampleOfPoint(i, step));
         curve.points.append({sample.gsensorX, sample.gsensorY, sample.gsensorZ});
     }
     return curve;
+}
+
+int sampleOfPoint(int point, float samplesPerPoint)
+{
+    return int(float(point) * samplesPerPoint);
+}
+
+int secondOfSample(int sample, float samplesPerPoint)
+{
+    const int second = int(float(sample) / samplesPerPoint);
+    // The first sample of a second lies a fraction of a frame before it.
+    return sampleOfPoint(second + 1, samplesPerPoint) <= sample ? second + 1 : second;
 }

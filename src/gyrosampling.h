@@ -11,6 +11,7 @@
 struct GyroCurve
 {
     int xRange = 0; ///< the number of points that the x axis has room for
+    float samplesPerPoint = 1.0f;
     QVector<GyroData> points;
 };
 
@@ -20,3 +21,10 @@ struct GyroCurve
  * for each sample. A frame rate of 0 or less is unknown.
  */
 GyroCurve gyroCurveOf(const QList<GpsData> &samples, int durationS, float frameRate);
+
+/** The sample that a point of a curve shows. */
+int sampleOfPoint(int point, float samplesPerPoint);
+
+/** The second of the recording in which a sample was measured, which is the point that stands for
+ *  it in the curve. Samples that are not one for each frame are one for each second. */
+int secondOfSample(int sample, float samplesPerPoint);

@@ -22,6 +22,7 @@
 #include "recordingopener.h"
 #include "rowdata.h"
 #include "screenshotnotice.h"
+#include "seekbyclick.h"
 #include "setting.h"
 #include "shortcuts.h"
 #include "telemetrydisplays.h"
@@ -273,6 +274,7 @@ void MainWindows::onAllGpsDataParserFinished(int rowId, const QList<GpsData> &da
                                         mPlaylistModel->getVideoframerate(rowId));
     if (!mDisplays->fillChart(curve))
         return;
+    mSeekByClick->setRecording(dataList, curve.samplesPerPoint);
     // The worker has offered the first sample before, when there was nothing to show it beside.
     if (mUi->wgt_PlayArea->state() == QMediaPlayer::StoppedState)
         mFirstSample = dataList.mid(0, 1);
@@ -384,6 +386,8 @@ void MainWindows::setupPlayback()
                                    mUi->gView_GyroChart, mUi->wgt_MapView});
     mPendingStart = new PendingStart(mUi->wgt_PlayArea, this);
     connect(mPendingStart, &PendingStart::due, this, &MainWindows::onRecordingDue);
+    mSeekByClick =
+        new SeekByClick({mUi->wgt_ControlPanel, mUi->wgt_PlayArea, mUi->gView_GyroChart}, this);
     mNotices = new PlaybackNotices(mUi->wgt_PlayArea, this);
     mAdvance = new PlaylistAdvance(mUi->wgt_PlayArea, this);
     connect(mAdvance, &PlaylistAdvance::due, this, &MainWindows::onRecordingEnded);
@@ -487,6 +491,7 @@ void MainWindows::giveUpRound()
 {
     ++mRound;
     mAdvance->giveUp();
+    mSeekByClick->forget();
     mDisplays->giveUpFilling();
     mFirstSample.clear();
 }

@@ -19,6 +19,7 @@ class PlaylistModel;
 class QKeyEvent;
 class QUrl;
 class RecordingOpener;
+class SeekByClick;
 class Shortcuts;
 class TelemetryDisplays;
 struct RowData;
@@ -124,6 +125,7 @@ private:
     PlaybackNotices *mNotices = nullptr;   // a child
     PlaylistAdvance *mAdvance = nullptr;   // a child
     RecordingOpener *mOpener = nullptr;    // a child
+    SeekByClick *mSeekByClick = nullptr;   // a child
     Shortcuts *mShortcuts = nullptr;       // a child
     int mRound = 0;                        // starts and stops: those before are given up
     bool mIsStopped = false; // or closed, and no start since: what is delivered now is too late

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Quellfern
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "gyrochartview.h"
+#include "gyrosampling.h"
 #include "patience.h"
 
 #include <QtCharts/QChart>
@@ -28,6 +29,9 @@ private slots:
     void window();
     void cursor();
     void samplesAreSeen();
+    void secondsOfSamples_data();
+    void secondsOfSamples();
+    void onlyWhatIsThereIsFound();
 
 private:
     QVector<QPointF> points(const QString &name) const;
@@ -139,6 +143,40 @@ void TestGyroChart::samplesAreSeen()
         QTRY_VERIFY(colourAt(part, 1.0).red() > 150 && colourAt(part, 1.0).green() < 100);
         QTRY_VERIFY(colourAt(part, -1.0).blue() > 150 && colourAt(part, -1.0).red() < 100);
     }
+}
+
+void TestGyroChart::secondsOfSamples_data()
+{
+    QTest::addColumn<float>("samplesPerPoint");
+    QTest::addColumn<int>("sample");
+    QTest::addColumn<int>("second");
+    QTest::newRow("a sample a second") << 1.0f << 7 << 7;
+    QTest::newRow("the last frame of a second") << 30.0f << 59 << 1;
+    QTest::newRow("the first frame of a second") << 30.0f << 60 << 2;
+    QTest::newRow("a broken rate, where the chart has second 1") << 29.97f << 29 << 1;
+    QTest::newRow("a frame before that") << 29.97f << 28 << 0;
+}
+
+void TestGyroChart::secondsOfSamples()
+{
+    QFETCH(const float, samplesPerPoint);
+    QFETCH(const int, sample);
+    QTEST(secondOfSample(sample, samplesPerPoint), "second");
+}
+
+/** Neither what has gone nor what is beyond the end. */
+void TestGyroChart::onlyWhatIsThereIsFound()
+{
+    mView->show();
+    QVERIFY(QTest::qWaitForWindowExposed(mView.get(), PatienceMs));
+    QVERIFY(!mView->isOnLines({250, 60}));
+    QCOMPARE(mView->sampleNear({250, 60}), -1);
+    for (int i = 0; i < WindowSize + 11; ++i)
+        mView->insertPoints({});
+    QVERIFY(mView->isOnLines({250, 60}));
+    QVERIFY(!mView->isOnLines({250, 154}));
+    QTRY_COMPARE(mView->sampleNear({-5000, 60}), 10);
+    QCOMPARE(mView->sampleNear({5000, 60}), WindowSize + 10);
 }
 
 QTEST_MAIN(TestGyroChart)

@@ -99,6 +99,8 @@ private slots:
     void saysThatThereIsNoTelemetry();
     void keepsTheTrackThatCameLast();
     void keysAndSeeking();
+    void clickingTheChart_data();
+    void clickingTheChart();
     void rateVolumeAndMute();
     void previousAndNext();
     void slidingToTheEndSkipsNothing();
@@ -416,6 +418,41 @@ void tst_Program::keysAndSeeking()
     QCOMPARE(area()->state(), QMediaPlayer::PausedState);
     QTest::keyClick(mWindow.get(), Qt::Key_Space);
     QTRY_COMPARE(area()->state(), QMediaPlayer::PlayingState);
+}
+
+void tst_Program::clickingTheChart_data()
+{
+    QTest::addColumn<bool>("plays");
+    QTest::newRow("playing") << true;
+    QTest::newRow("paused") << false;
+}
+
+/** Both recordings go where the mouse is; what was paused stays so. */
+void tst_Program::clickingTheChart()
+{
+    QFETCH(const bool, plays);
+    auto *chart = child<GyroChartView>("gView_GyroChart");
+    const QRectF lines = chart->chart()->plotArea();
+    const auto placeOf = [&](int second) {
+        const double x = lines.left() + lines.width() * second / (PairSeconds - 1);
+        return QPointF(x, lines.center().y()).toPoint();
+    };
+    QTest::mouseClick(chart->viewport(), Qt::LeftButton, {}, placeOf(9)); // nothing to go to yet
+    QCOMPARE(area()->state(), QMediaPlayer::StoppedState);
+    playPair();
+    pauseAt(1);
+    if (plays)
+        area()->play();
+    QTest::mousePress(chart->viewport(), Qt::LeftButton, {}, placeOf(5));
+    QCOMPARE(area()->state(), QMediaPlayer::PausedState);
+    QTRY_COMPARE(second(), 5);
+    QMouseEvent drag(QEvent::MouseMove, placeOf(12), Qt::NoButton, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(chart->viewport(), &drag);
+    QTRY_COMPARE(second(), 12);
+    QCOMPARE(area()->secondPlayer()->player()->position(), qint64(12000));
+    QTRY_COMPARE(chartLine(3).value(0).x(), 12.0);
+    QTest::mouseRelease(chart->viewport(), Qt::LeftButton, {}, placeOf(12));
+    QCOMPARE(area()->state(), plays ? QMediaPlayer::PlayingState : QMediaPlayer::PausedState);
 }
 
 void tst_Program::rateVolumeAndMute()
