@@ -49,15 +49,15 @@ void SeekByClick::forget()
 
 bool SeekByClick::eventFilter(QObject *watched, QEvent *event)
 {
-    const auto *mouse = static_cast<QMouseEvent *>(event); // where the type says so
+    const auto mouse = [event] { return static_cast<QMouseEvent *>(event); };
     switch (event->type()) {
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
-        return press(*mouse);
+        return press(*mouse());
     case QEvent::MouseMove:
-        return move(*mouse);
+        return move(*mouse());
     case QEvent::MouseButtonRelease:
-        return mouse->button() == Qt::LeftButton && release();
+        return mouse()->button() == Qt::LeftButton && release();
     case QEvent::ToolTip:
         return showToolTip(static_cast<QHelpEvent *>(event)->pos());
     default:
