@@ -37,6 +37,7 @@ window.talvorMap = (() => {
     const STRANDS_TRIED = 8;
     const SMALLEST_STRAND = 0.1;
     const DRAG_PX = 4;
+    const NEAR_PX = 12; // so far beside the route a click still means it
     // About 400 m: a parked car is shown with the streets around it.
     const SMALLEST_SPAN_DEG = 0.004;
     // Below this the view is parked out of sight.
@@ -547,6 +548,72 @@ window.talvorMap = (() => {
             && isWithin((lat - view.south) / (view.north - view.south), mapElement.clientHeight);
     }
 
+    /** Where a position lies in the view, in pixels. All providers draw Mercator's projection. */
+    function pixelOf({ lng, lat }, view) {
+        const { clientWidth, clientHeight } = mapElement;
+        const width = view.east > view.west ? view.east - view.west : view.east - view.west + 360;
+        const fromMiddle = eastOf(view.west + width / 2 - 180, lng) - 180;
+        const northing = (degrees) => Math.log(Math.tan((90 + degrees) * Math.PI / 360));
+        const top = northing(view.north);
+        return {
+            x: (0.5 + fromMiddle / width) * clientWidth,
+            y: (top - northing(lat)) / (top - northing(view.south)) * clientHeight,
+        };
+    }
+
+    /** How far a place is from the leg between two others, and which share of it lies before. */
+    function distanceToLeg(place, from, to) {
+        const [x, y] = [to.x - from.x, to.y - from.y];
+        const length = x * x + y * y;
+        const along = length > 0 ? ((place.x - from.x) * x + (place.y - from.y) * y) / length : 0;
+        const share = Math.max(0, Math.min(along, 1));
+        return [Math.hypot(from.x + share * x - place.x, from.y + share * y - place.y), share];
+    }
+
+    /** The samples of each pass of the drive that come nearest to a place in the view, if near. */
+    function passesNear(place, view) {
+        const samples = route.length > 0 ? route.map((point, id) => ({ id, point })) : live;
+        const passes = [];
+        let last = null;
+        for (const { id, point } of samples) {
+            const pixel = point && pixelOf(point, view);
+            if (!pixel) {
+                last = null;
+                continue;
+            }
+            const leg = last && id - last.id <= LARGEST_STEP ? last : { id, pixel };
+            const [distance, share] = distanceToLeg(place, leg.pixel, pixel);
+            last = { id, pixel };
+            if (distance > NEAR_PX)
+                continue;
+            const found = { id: share < 0.5 ? leg.id : id, distance, lastId: id };
+            const before = passes[passes.length - 1];
+            if (!before || leg.id > before.lastId)
+                passes.push(found);
+            else if (distance < before.distance)
+                passes[passes.length - 1] = found;
+            else
+                before.lastId = id;
+        }
+        return passes;
+    }
+
+    /**
+     * The sample of the drive at a place of the page, which may be some pixels beside it; -1 if there
+     * is none. Where the drive has passed several times, it is the pass nearest in time to the
+     * sample that is played.
+     */
+    function sampleAt(x, y, played) {
+        const view = provider && provider.bounds();
+        const hit = document.elementFromPoint(x, y);
+        if (!view || !hit || !mapElement.contains(hit) || hit.closest(`a, ${adapter.controls}`))
+            return -1;
+        const { left, top } = mapElement.getBoundingClientRect();
+        const passes = passesNear({ x: x - left, y: y - top }, view);
+        passes.sort((a, b) => Math.abs(a.id - played) - Math.abs(b.id - played));
+        return passes.length > 0 ? passes[0].id : -1;
+    }
+
     function showMapCenter(lng, lat) {
         wantedCentre = provider.point(lng, lat);
         wantsFit = false;
@@ -802,6 +869,7 @@ window.talvorMap = (() => {
         providerReady,
         fail,
         note,
+        sampleAt,
         state,
     };
 })();

@@ -386,8 +386,8 @@ void MainWindows::setupPlayback()
                                    mUi->gView_GyroChart, mUi->wgt_MapView});
     mPendingStart = new PendingStart(mUi->wgt_PlayArea, this);
     connect(mPendingStart, &PendingStart::due, this, &MainWindows::onRecordingDue);
-    mSeekByClick =
-        new SeekByClick({mUi->wgt_ControlPanel, mUi->wgt_PlayArea, mUi->gView_GyroChart}, this);
+    mSeekByClick = new SeekByClick(
+        {mUi->wgt_ControlPanel, mUi->wgt_PlayArea, mUi->gView_GyroChart, mUi->wgt_MapView}, this);
     mNotices = new PlaybackNotices(mUi->wgt_PlayArea, this);
     mAdvance = new PlaylistAdvance(mUi->wgt_PlayArea, this);
     connect(mAdvance, &PlaylistAdvance::due, this, &MainWindows::onRecordingEnded);

@@ -4,6 +4,7 @@
 
 #include "gpsuser.h"
 #include "linkclicks.h"
+#include "mapclicks.h"
 #include "mappage.h"
 #include "maprequests.h"
 #include "overlaywindow.h"
@@ -278,6 +279,7 @@ void MapWebView::setupWebView()
     auto *clicks = new LinkClicks(webView);
     connect(page, &MapPage::linkClicked, clicks, &LinkClicks::follow);
     connect(page, &MapPage::windowWanted, clicks, &LinkClicks::followInWindow);
+    mClicks = new MapClicks(webView);
     webView->page()->setBackgroundColor(MapBackground);
     mCalls = new PageCalls(webView->page(), this);
     connect(mCalls, &PageCalls::pageLost, this, &MapWebView::loadPageAgain);

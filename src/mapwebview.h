@@ -12,6 +12,7 @@
 #include <memory>
 #include <optional>
 
+class MapClicks;
 class MapRequests;
 class OverlayWindow;
 class PageCalls;
@@ -46,6 +47,9 @@ public:
     void updatePosition();
     /** Ends the sending of a track, if one is being sent or about to be. */
     void dropTrack();
+
+    /** What the user clicks on the map; owned by the web view. */
+    MapClicks *clicks() const { return mClicks; }
 
     /** What servers are told of who asks: the program, its version and, if there is one, the
      * address at which they reach the packager. */
@@ -104,6 +108,7 @@ private:
     OverlayWindow *mOverlay = nullptr;
     PageCalls *mCalls = nullptr;
     MapRequests *mRequests = nullptr;
+    MapClicks *mClicks = nullptr;
     int mDropCount = 0; // a track that is older than the last of these is given up
     std::unique_ptr<QLockFile> mCacheLock;
 };

@@ -6,11 +6,14 @@
 #include "controlpanel.h"
 #include "gyrochartview.h"
 #include "gyrosampling.h"
+#include "mapclicks.h"
+#include "mapwebview.h"
 #include "playareamanager.h"
 
 #include <QDateTime>
 #include <QHelpEvent>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QToolTip>
 
 #include <algorithm>
@@ -32,16 +35,19 @@ SeekByClick::SeekByClick(const Widgets &widgets, QObject *parent)
 {
     mWidgets.chart->viewport()->setMouseTracking(true);
     mWidgets.chart->viewport()->installEventFilter(this);
+    connect(mWidgets.map->clicks(), &MapClicks::clicked, this, &SeekByClick::onMapClicked);
 }
 
 void SeekByClick::setRecording(const QList<GpsData> &samples, float samplesPerPoint)
 {
+    ++mRecordings;
     mSamples = samples;
     mSamplesPerPoint = samplesPerPoint;
 }
 
 void SeekByClick::forget()
 {
+    ++mRecordings;
     mSamples.clear();
     mIsHeld = false;
     mWidgets.chart->viewport()->unsetCursor();
@@ -171,4 +177,24 @@ int SeekByClick::secondOf(int sample) const
     const qint64 durationMs = mWidgets.area->mainPlayer()->player()->duration();
     const int last = int(std::max(qint64(0), durationMs - 1) / 1000);
     return std::min(secondOfSample(sample, mSamplesPerPoint), last);
+}
+
+void SeekByClick::onMapClicked(const QPoint &place)
+{
+    if (!canSeek())
+        return;
+    const qint64 second = mWidgets.area->mainPlayer()->player()->position() / 1000;
+    const QPointer<SeekByClick> self(this);
+    mWidgets.map->clicks()->askForSample(place, sampleOfPoint(int(second), mSamplesPerPoint),
+                                         [self, recordings = mRecordings](int sample) {
+                                             if (self && self->mRecordings == recordings)
+                                                 self->goTo(sample);
+                                         });
+}
+
+/** What the page names may be anything. */
+void SeekByClick::goTo(int sample)
+{
+    if (canSeek() && sample < mSamples.size())
+        emit mWidgets.panel->sliderMoved(secondOf(sample));
 }

@@ -10,11 +10,12 @@
 
 class ControlPanel;
 class GyroChartView;
+class MapWebView;
 class PlayAreaManager;
 class QMouseEvent;
 
 /**
- * Moves playback to what is clicked: a bump in the g-sensor chart.
+ * Moves playback to what is clicked: a bump in the g-sensor chart, a bend of the route on the map.
  *
  * The chart works like the seek slider: playback is paused while the mouse button is held, and goes
  * on then. What was paused before stays paused. The widgets are not owned and must live longer.
@@ -31,6 +32,7 @@ public:
         ControlPanel *panel = nullptr;
         PlayAreaManager *area = nullptr;
         GyroChartView *chart = nullptr;
+        MapWebView *map = nullptr;
     };
 
     SeekByClick(const Widgets &widgets, QObject *parent);
@@ -55,8 +57,11 @@ private:
     QString textOf(const GpsData &sample) const;
     int sampleAt(const QPoint &position) const;
     int secondOf(int sample) const;
+    void onMapClicked(const QPoint &place);
+    void goTo(int sample);
 
     Widgets mWidgets;
+    int mRecordings = 0;     // set or forgotten so far: an answer of the map may come late
     QList<GpsData> mSamples; // of the recording that is played, as soon as it can be clicked
     float mSamplesPerPoint = 1.0f;
     bool mIsHeld = false;     // the mouse button, on the chart

@@ -145,6 +145,8 @@ private slots:
     void drivenPart();
     void withoutFix_data();
     void withoutFix();
+    void sampleAtAPlace_data();
+    void sampleAtAPlace();
     void clearing();
     void following();
     void longRoutesArrive_data();
@@ -504,6 +506,54 @@ void tst_MapPages::withoutFix()
     QCOMPARE(marks("position.svg"), int(!isLost));
     if (isLost && shownAt >= 0)
         QTRY_VERIFY(pixels(qRgb(120, 120, 128)) > 30);
+}
+
+void tst_MapPages::sampleAtAPlace_data()
+{
+    QTest::addColumn<double>("longitude"); // in thousandths of a degree
+    QTest::addColumn<double>("below");     // pixels below the equator
+    QTest::addColumn<int>("played");
+    QTest::addColumn<int>("sample");
+    QTest::newRow("on a sample") << 2.0 << 0.0 << 0 << 2;
+    QTest::newRow("nearly at the next") << 2.7 << 0.0 << 0 << 3;
+    QTest::newRow("beside it") << 2.0 << 11.5 << 0 << 2;
+    QTest::newRow("too far beside it") << 2.0 << 12.5 << 0 << -1;
+    QTest::newRow("crossing, first pass") << 5.0 << 0.0 << 1 << 5;
+    QTest::newRow("crossing, second pass") << 5.0 << 0.0 << 14 << 16;
+    QTest::newRow("between two passes that do not touch") << 10.5 << 0.0 << 0 << 10;
+}
+
+/** East along the equator, which the drive crosses once more: there, places are linear. */
+void tst_MapPages::sampleAtAPlace()
+{
+    QFETCH(double, longitude);
+    QFETCH(double, below);
+    QFETCH(int, played);
+    QFETCH(int, sample);
+    open(OpenStreetMap);
+    QString calls;
+    for (int i = 0; i < 22; ++i) {
+        const double east = i < 11 ? i : 5;
+        const double north = i < 11 ? 0.0000001 : 16 - i;
+        calls += QStringLiteral("loadAllGpsDataOfVideo(%1, %2, %3, 22);")
+                     .arg(east / 1000)
+                     .arg(north / 1000, 0, 'f', 10)
+                     .arg(i);
+    }
+    run(calls);
+    QTRY_COMPARE(state("routePoints").toInt(), 22);
+    QTRY_COMPARE(state("fits").toInt(), 1);
+    const QVariantMap view = state("view").toMap();
+    const double west = view["west"].toDouble();
+    const double north = view["north"].toDouble();
+    const double x = (longitude / 1000 - west) / (view["east"].toDouble() - west) * 330;
+    const double y = north / (north - view["south"].toDouble()) * 200 + below;
+    const QString question = QStringLiteral("talvorMap.sampleAt(%1, %2, %3)");
+    QCOMPARE(run(question.arg(x).arg(y).arg(played)).toInt(), sample);
+    QCOMPARE(run(question.arg(20).arg(20).arg(played)).toInt(), -1); // the control of the zoom
+    run(QStringLiteral("mapClearAll()"));
+    QTRY_COMPARE(state("routePoints").toInt(), 0);
+    QCOMPARE(run(question.arg(x).arg(y).arg(played)).toInt(), -1);
 }
 
 void tst_MapPages::clearing()

@@ -6,6 +6,7 @@
 #include "gpsuser.h"
 #include "gyrochartview.h"
 #include "mainwindows.h"
+#include "mapclicks.h"
 #include "mapwebview.h"
 #include "mediafile.h"
 #include "patience.h"
@@ -101,6 +102,7 @@ private slots:
     void keysAndSeeking();
     void clickingTheChart_data();
     void clickingTheChart();
+    void clickingTheMap();
     void rateVolumeAndMute();
     void previousAndNext();
     void slidingToTheEndSkipsNothing();
@@ -453,6 +455,40 @@ void tst_Program::clickingTheChart()
     QTRY_COMPARE(chartLine(3).value(0).x(), 12.0);
     QTest::mouseRelease(chart->viewport(), Qt::LeftButton, {}, placeOf(12));
     QCOMPARE(area()->state(), plays ? QMediaPlayer::PlayingState : QMediaPlayer::PausedState);
+}
+
+/** At double rate; a page that lies about it moves nothing. */
+void tst_Program::clickingTheMap()
+{
+    playPair();
+    pauseAt(1);
+    click("pBtn_Down");
+    QTRY_COMPARE(map("fits"), QString("1"));
+    const auto number = [this](const char *field) { return map(QLatin1String(field)).toDouble(); };
+    auto *view = mWindow->findChild<QWebEngineView *>();
+    const QStringList sides{"view.west", "view.east", "view.north", "view.south"};
+    QVector<double> bounds;
+    for (const QString &side : sides)
+        bounds.append(map(side).toDouble());
+    const double lastLongitude = number("routeBounds[2]");
+    const double lastLatitude = number("routeBounds[1]"); // it goes to the south-east
+    const QPoint end((lastLongitude - bounds[0]) / (bounds[1] - bounds[0]) * view->width(),
+                     (lastLatitude - bounds[2]) / (bounds[3] - bounds[2]) * view->height());
+    QTest::mouseClick(view->focusProxy(), Qt::LeftButton, {}, end);
+    QTRY_COMPARE(second(), PairSeconds - 1);
+    QCOMPARE(area()->state(), QMediaPlayer::PausedState);
+    QCOMPARE(area()->secondPlayer()->player()->position(), qint64(PairSeconds - 1) * 1000);
+
+    area()->seek(5);
+    QTRY_COMPARE(second(), 5);
+    for (const char *lie : {"20", "-1", "'3'", "1e99", "NaN", "{}", "undefined"}) {
+        view->page()->runJavaScript(QStringLiteral("talvorMap.sampleAt = () => %1").arg(lie));
+        QSignalSpy clicks(child<MapWebView>("wgt_MapView")->clicks(), &MapClicks::clicked);
+        QTest::mouseClick(view->focusProxy(), Qt::LeftButton, {}, end);
+        QTRY_COMPARE(clicks.size(), 1);
+        map("fits"); // answered behind it
+    }
+    QCOMPARE(second(), 5);
 }
 
 void tst_Program::rateVolumeAndMute()
