@@ -142,6 +142,10 @@ void TestTracks::initTestCase()
     save("with <&\"'> , name.mp4", smallRecording(4, ride(3)));
     save("none.mp4", smallRecording(0, {}));
     save("line.avi", smallRecording(7, ride(40)));
+    save("edge.avi", smallRecording(7, {sample("20260314003001", 1, 180)}));
+    TelemetryBlock sound; // which lies where telemetry could be
+    sound.time = sound.time2 = "~~~~~~~~~~~~~~";
+    save("sound.avi", smallRecording(8, {sound, sound}));
 }
 
 int TestTracks::run(const QStringList &arguments)
@@ -191,9 +195,10 @@ QStringList TestTracks::files(const QString &folder) const
 void TestTracks::gpx()
 {
     save("gpx.xsd", GpxSchema);
-    QCOMPARE(run({"odd.mp4", "with <&\"'> , name.mp4", "--output", "gpx/"}), 0);
+    QCOMPARE(run({"odd.mp4", "edge.avi", "with <&\"'> , name.mp4", "--output", "gpx/"}), 0);
     QCOMPARE(run({"odd.mp4", "--utc-offset", "+01:00", "--output", "utc.gpx"}), 0);
-    for (const char *file : {"gpx/odd.gpx", "gpx/with <&\"'> , name.gpx", "utc.gpx"})
+    for (const char *file :
+         {"gpx/odd.gpx", "gpx/edge.gpx", "gpx/with <&\"'> , name.gpx", "utc.gpx"})
         QVERIFY2(!answerOf("xmllint", {"--noout", "--schema", "gpx.xsd", file}).isEmpty(), file);
 
     const QByteArray points = answerOf("ogrinfo", {"-ro", "-q", "utc.gpx", "track_points"});
@@ -378,6 +383,7 @@ void TestTracks::statuses_data()
     row("unknown unit", {"--speed-unit", "knots", "odd.mp4"}, 2, "knots");
     row("figures in a file", {"--info", "-o", "new", "odd.mp4"}, 2, "--info");
     row("without telemetry", {"none.mp4", "-o", "new"}, 1, "none.mp4 has no telemetry");
+    row("sound only", {"sound.avi", "-o", "new"}, 1, "sound.avi has no telemetry");
     row("one of two without telemetry", {"--join", "none.mp4", "line.avi"}, 1, "none.mp4");
     row("gone", {"gone.mp4", "-o", "new"}, 2, "gone.mp4 cannot be read");
     row("one of two gone", {"--join", "none.mp4", "gone.mp4"}, 2, "gone.mp4 cannot be read");
