@@ -17,7 +17,8 @@ const QLatin1String ObjectPath("/org/mpris/MediaPlayer2");
 const QLatin1String PlayerInterface("org.mpris.MediaPlayer2.Player");
 const QLatin1String BusName("org.mpris.MediaPlayer2.talvor-player");
 
-// Of the D-Bus specification, about names.
+// What the bus takes and answers when a name is requested (DBUS_NAME_FLAG_DO_NOT_QUEUE,
+// DBUS_REQUEST_NAME_REPLY_PRIMARY_OWNER).
 constexpr uint DoNotQueue = 4;
 constexpr uint PrimaryOwner = 1;
 

@@ -11,9 +11,8 @@ class PlaybackRemote;
 class QDBusMessage;
 
 /**
- * Playback as other programs see it: the interface org.mpris.MediaPlayer2.Player of the MPRIS D-Bus
- * Interface Specification 2.2, which says what the properties and methods mean. Times are in
- * microseconds.
+ * Playback as other programs see it: org.mpris.MediaPlayer2.Player of MPRIS 2.2, the desktop's
+ * common interface of media players, whose names and units these are. Times are in microseconds.
  *
  * Callers are strangers: what they pass is checked here or by the remote, which must outlive this.
  * A child of the object that is on the bus. GUI thread only.

@@ -9,8 +9,8 @@ class MediaControls;
 class PlaybackRemote;
 
 /**
- * The program as other programs see it: the interface org.mpris.MediaPlayer2 of the MPRIS D-Bus
- * Interface Specification 2.2, which says what the properties and methods mean.
+ * The program as other programs see it: org.mpris.MediaPlayer2 of MPRIS 2.2, the desktop's common
+ * interface of media players, whose names these are.
  *
  * A child of the object that is on the bus; the remote must outlive it. GUI thread only.
  */
