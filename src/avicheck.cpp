@@ -14,7 +14,7 @@ namespace {
 constexpr quint64 ChunkHeaderSize = 8;
 constexpr quint64 ListHeaderSize = 12;
 
-// Between headers and pictures, and inside of headers, there are a few dozen.
+// Between headers and pictures, and inside of headers, there are a few dozen in all.
 constexpr int MaxChunks = 4096;
 // Of 1 GB each, as a rule.
 constexpr int MaxRiffs = 4096;
@@ -110,7 +110,7 @@ template <typename Handler>
 void AviCheck::walk(quint64 offset, quint64 limit, Handler handle)
 {
     Chunk chunk;
-    for (int chunks = 0; chunks < MaxChunks && readChunk(offset, limit, chunk); ++chunks) {
+    while (mChunkCount++ < MaxChunks && readChunk(offset, limit, chunk)) {
         if (!handle(chunk))
             return;
         offset = chunk.end + (chunk.size & 1);

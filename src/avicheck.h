@@ -59,6 +59,7 @@ private:
     bool mHasStreams = false;
     bool mHasPictures = false;
     bool mHasMovie = false;
+    int mChunkCount = 0; // looked at so far
     bool mExpectsIndex = false;
     bool mHasIndex = false;
     bool mEndsInDisorder = false; ///< there is something that is no chunk

@@ -15,8 +15,8 @@ namespace {
 constexpr quint64 BoxHeaderSize = 8;
 constexpr quint64 LargeBoxHeaderSize = 16;
 
-// A day in fragments of a second has fewer.
-constexpr int MaxBoxes = 1 << 17;
+// In the whole recording, whose boxes may be invented. A day in fragments of a second has fewer.
+constexpr int MaxBoxes = 1 << 18;
 
 // More than any card holds: what is said to end behind it is an invention.
 constexpr quint64 MaxRecordingSize = Q_UINT64_C(1) << 42;
@@ -88,7 +88,7 @@ void Mp4Check::walk(const Box &parent, Handler handle)
 {
     Box box;
     quint64 offset = parent.payload;
-    for (int boxes = 0; boxes < MaxBoxes && readBox(offset, parent.end, box); ++boxes) {
+    while (mBoxCount++ < MaxBoxes && readBox(offset, parent.end, box)) {
         if (box.end > parent.end) {
             mIsMovieBroken = true;
             return;
@@ -111,7 +111,7 @@ bool Mp4Check::isContainer()
 void Mp4Check::readTopLevel()
 {
     Box box;
-    for (int boxes = 0; boxes < MaxBoxes && readBox(box.end, mFileSize, box); ++boxes) {
+    while (mBoxCount++ < MaxBoxes && readBox(box.end, mFileSize, box)) {
         const bool isCut = box.end > mFileSize;
         if (box.type == typeOf("moov") && !mHasMovie && !isCut)
             readMovie(box);

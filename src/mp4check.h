@@ -64,6 +64,7 @@ private:
     const quint64 mFileSize;
     bool mHasMovie = false;
     bool mIsMovieBroken = false;
+    int mBoxCount = 0; // looked at so far
     bool mHasPictures = false;
     quint32 mWidth = 0;        ///< of the widest track of pictures
     QByteArray mCoding;        ///< of that track
