@@ -11,11 +11,7 @@
 class QThread;
 
 /**
- * Looks for the recordings in folders and those below, on a thread of its own, and puts them into
- * natural order: 9 before 10, in either case, those of a folder before those of the folders in it.
- *
- * A folder is entered once, however many links lead to it. Hidden files are left out, as are
- * sockets and the like; folders that cannot be read, or go meanwhile, have what was read of them.
+ * Looks for the recordings in folders as RecordingSearch does, on a thread of its own.
  *
  * The public operations belong to the GUI thread. None of them waits for the file system: a search
  * in a folder that does not answer is left to itself.
@@ -41,9 +37,6 @@ public:
     bool isRunning() const { return mWalk != nullptr; }
     /** The number of recordings so far, those that were given included; 0 if none runs. */
     int foundCount() const;
-
-    /** Whether a file's name is that of a recording: its suffix is mp4, mov or avi in any case. */
-    static bool isRecording(const QString &fileName);
 
 signals:
     void finished(const QList<QUrl> &recordings);

@@ -2,80 +2,79 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "recordingsearch.h"
 
-#include <QCollator>
-#include <QDir>
-#include <QSet>
+#include <QDirIterator>
+#include <QLocale>
 
 #include <algorithm>
+#include <array>
+#include <utility>
+#include <vector>
 
-namespace {
-
-class Search
+// Not the system's locale: under some, such as "C", there are no natural orders.
+RecordingSearch::RecordingSearch(int most)
+    : mMost(most), mOrder(QLocale(QLocale::English, QLocale::UnitedStates))
 {
-public:
-    explicit Search(const std::atomic<bool> *wanted) : mWanted(wanted)
-    {
-        mOrder.setNumericMode(true);
-        mOrder.setCaseSensitivity(Qt::CaseInsensitive);
-    }
+    mOrder.setNumericMode(true);
+    mOrder.setCaseSensitivity(Qt::CaseInsensitive);
+}
 
-    void lookInto(const QString &folder);
-    const QStringList &found() const { return mFound; }
-
-private:
-    QStringList sorted(QStringList names) const;
-    bool isWanted() const { return !mWanted || mWanted->load(std::memory_order_relaxed); }
-
-    const std::atomic<bool> *mWanted = nullptr;
-    QCollator mOrder{QLocale(QLocale::English)}; // that of "C" knows no numbers
-    QSet<QString> mSeen;
-    QStringList mFound;
-};
-
-void Search::lookInto(const QString &folder)
+void RecordingSearch::lookInto(const QString &folder)
 {
-    const QDir dir(folder);
-    const QString canonical = dir.canonicalPath();
-    if (canonical.isEmpty() || mSeen.contains(canonical))
+    const QString real = QFileInfo(folder).canonicalFilePath();
+    if (real.isEmpty() || mEntered.contains(real))
         return;
-    mSeen.insert(canonical);
-    const QStringList files = sorted(dir.entryList(QDir::Files, QDir::NoSort));
-    for (const QString &file : files) {
-        if (isRecordingFile(file))
-            mFound.append(dir.filePath(file));
+    mEntered.insert(real);
+    QStringList recordings;
+    QStringList folders;
+    QDirIterator iterator(folder, QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot);
+    while (!mIsCancelled && iterator.hasNext()) {
+        iterator.next();
+        const QFileInfo info = iterator.fileInfo();
+        if (info.isDir())
+            folders.append(info.fileName());
+        else if (isRecording(info.fileName()) && info.isFile())
+            recordings.append(info.fileName());
     }
-    const QStringList folders =
-        sorted(dir.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::NoSort));
-    for (const QString &name : folders) {
-        if (!isWanted())
+    for (const QString &name : sorted(recordings)) {
+        if (isOver())
             return;
-        lookInto(dir.filePath(name));
+        take(folder + QLatin1Char('/') + name);
+    }
+    for (const QString &name : sorted(folders)) {
+        if (isOver())
+            return;
+        lookInto(folder + QLatin1Char('/') + name);
     }
 }
 
-QStringList Search::sorted(QStringList names) const
+void RecordingSearch::take(const QString &path)
 {
-    std::sort(names.begin(), names.end(), [this](const QString &a, const QString &b) {
-        const int order = mOrder.compare(a, b);
-        return order != 0 ? order < 0 : a < b;
+    mFound.append(path);
+    ++mFoundCount;
+}
+
+bool RecordingSearch::isRecording(const QString &fileName)
+{
+    const std::array<QLatin1String, 3> suffixes{QLatin1String(".mp4"), QLatin1String(".mov"),
+                                                QLatin1String(".avi")};
+    return std::any_of(suffixes.begin(), suffixes.end(), [&](QLatin1String suffix) {
+        return fileName.endsWith(suffix, Qt::CaseInsensitive);
     });
-    return names;
 }
 
-} // namespace
-
-bool isRecordingFile(const QString &fileName)
+/** Names that differ in nothing but their case have an order too, always the same one. */
+QStringList RecordingSearch::sorted(const QStringList &names) const
 {
-    for (const char *suffix : {".mp4", ".mov", ".avi"}) {
-        if (fileName.endsWith(QLatin1String(suffix), Qt::CaseInsensitive))
-            return true;
-    }
-    return false;
-}
-
-QStringList recordingsBelow(const QString &folder, const std::atomic<bool> *wanted)
-{
-    Search search(wanted);
-    search.lookInto(folder);
-    return search.found();
+    std::vector<std::pair<QCollatorSortKey, QString>> keyed;
+    keyed.reserve(size_t(names.size()));
+    for (const QString &name : names)
+        keyed.emplace_back(mOrder.sortKey(name), name);
+    std::sort(keyed.begin(), keyed.end(), [](const auto &left, const auto &right) {
+        const int order = left.first.compare(right.first);
+        return order != 0 ? order < 0 : left.second < right.second;
+    });
+    QStringList result;
+    for (const auto &each : keyed)
+        result.append(each.second);
+    return result;
 }

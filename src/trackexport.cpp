@@ -59,7 +59,9 @@ void TrackExport::findSources()
             mSources.append({input, QString()});
             continue;
         }
-        const QStringList found = recordingsBelow(input);
+        RecordingSearch search;
+        search.lookInto(QDir::cleanPath(input));
+        const QStringList found = search.found();
         if (found.isEmpty())
             note(Failure, QStringLiteral("%1: no recordings in this folder").arg(input));
         for (const QString &path : found)
